@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "kelimagecolorizer.h"
+#include "kelimagecolorizer_p.h"
+
+#include <QtGui/QColorSpace>
+#include <QtQuick/private/qquickimage_p.h>
+#include <QtQuick/private/qquickimage_p_p.h>
+
+#include <array>
+
+namespace {
+
+constexpr QRgb colorMask = 0x00ffffff;
+constexpr QRgb alphaMask = 0xff000000;
+
+//! Builds the ARGB32 picture whose pixels are newPixel(old ARGB32 pixel).
+template <typename NewPixel>
+QImage mapped(const QImage &picture, NewPixel newPixel)
+{
+    QImage result(picture.size(), QImage::Format_ARGB32);
+    if (result.isNull())
+        return result;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        auto *to = reinterpret_cast<QRgb *>(result.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x)
+            to[x] = newPixel(from[x]);
+    }
+    result.setDevicePixelRatio(picture.devicePixelRatio());
+    result.setDotsPerMeterX(picture.dotsPerMeterX());
+    result.setDotsPerMeterY(picture.dotsPerMeterY());
+    result.setOffset(picture.offset());
+    result.setColorSpace(picture.colorSpace());
+    for (const QString &key : picture.textKeys())
+        result.setText(key, picture.text(key));
+    return result;
+}
+
+/*!
+    The same from any format, by a function of a pixel's alpha and of whether it is coloured. Red, green and
+    blue never matter beyond that, so that premultiplied pixels need no division: where alpha is not 0 they
+    are all 0 before it exactly if they are after it.
+*/
+template <typename NewPixel>
+QImage recolored(const QImage &picture, NewPixel newPixel)
+{
+    switch (picture.format()) {
+    case QImage::Format_ARGB32_Premultiplied:
+        return mapped(picture, [=](QRgb pixel) {
+            return newPixel(pixel & alphaMask, (pixel & colorMask) != 0 && (pixel & alphaMask) != 0);
+        });
+    case QImage::Format_RGB32:
+        return mapped(picture, [=](QRgb pixel) { return newPixel(alphaMask, (pixel & colorMask) != 0); });
+    default:
+        return mapped(picture.convertToFormat(QImage::Format_ARGB32), [=](QRgb pixel) {
+            return newPixel(pixel & alphaMask, (pixel & colorMask) != 0);
+        });
+    }
+}
+
+} // namespace
+
+QImage KelColorizing::withSourceAlpha(const QImage &picture, QRgb color)
+{
+    const QRgb paint = color & colorMask;
+    return recolored(picture, [=](QRgb alpha, bool isColored) { return isColored ? alpha | paint : alpha; });
+}
+
+QImage KelColorizing::withDestinationAlpha(const QImage &picture, QRgb color, int lastAlpha)
+{
+    const QRgb paint = color & colorMask;
+    std::array<QRgb, 256> table;
+    for (int alpha = 0; alpha < 256; ++alpha) {
+        const int original = lastAlpha > 0 && lastAlpha < 255 ? alpha * 255 / lastAlpha : alpha;
+        // Beyond 255 it wraps around, deliberately: only pixels that were not scaled before can get there.
+        table[alpha] = QRgb(original * qAlpha(color) / 255) << 24 | paint;
+    }
+    if (qAlpha(color) == 0)
+        return recolored(picture, [=](QRgb alpha, bool isColored) { return isColored ? paint : alpha; });
+    return recolored(picture, [&table](QRgb alpha, bool) { return table[alpha >> 24]; });
+}
+
+KelImageColorizer::KelImageColorizer(QObject *parent)
+    : QObject(parent)
+{
+}
+
+bool KelImageColorizer::enabled() const
+{
+    return m_enabled;
+}
+
+void KelImageColorizer::setEnabled(bool enabled)
+{
+    if (m_enabled == enabled)
+        return;
+    m_enabled = enabled;
+    Q_EMIT enabledChanged();
+    tryColorizeImage();
+}
+
+QQuickItem *KelImageColorizer::sourceItem() const
+{
+    return m_sourceItem;
+}
+
+void KelImageColorizer::setSourceItem(QQuickItem *item)
+{
+    if (m_sourceItem == item)
+        return;
+    disconnect(m_statusConnection);
+    m_statusConnection = {};
+    m_sourceItem = item;
+    if (auto *image = qobject_cast<QQuickImage *>(item)) {
+        m_statusConnection = connect(image, &QQuickImageBase::statusChanged,
+                                     this, &KelImageColorizer::tryColorizeImage);
+    }
+    Q_EMIT sourceItemChanged();
+    tryColorizeImage();
+}
+
+QColor KelImageColorizer::color() const
+{
+    return m_color;
+}
+
+void KelImageColorizer::setColor(const QColor &color)
+{
+    if (m_color == color)
+        return;
+    m_color = color;
+    Q_EMIT colorChanged();
+    tryColorizeImage();
+}
+
+KelImageColorizer::ColoringMethod KelImageColorizer::coloringMethod() const
+{
+    return m_coloringMethod;
+}
+
+void KelImageColorizer::setColoringMethod(ColoringMethod method)
+{
+    if (m_coloringMethod == method)
+        return;
+    m_coloringMethod = method;
+    Q_EMIT coloringMethodChanged();
+    tryColorizeImage();
+}
+
+void KelImageColorizer::tryColorizeImage()
+{
+    if (!m_enabled || !m_color.isValid())
+        return;
+    auto *image = qobject_cast<QQuickImage *>(m_sourceItem);
+    if (!image || image->status() != QQuickImageBase::Ready)
+        return;
+    const QImage picture = image->image();
+    if (picture.isNull())
+        return;
+    const QRgb color = m_color.rgba();
+    // Qt has no public way to give an Image a picture without changing its source. Should this one vanish,
+    // an image provider that serves the recoloured picture to the same item takes its place.
+    auto *shown = static_cast<QQuickImagePrivate *>(QQuickItemPrivate::get(image));
+    if (m_coloringMethod != DestinationAlpha) {
+        shown->setImage(KelColorizing::withSourceAlpha(picture, color));
+        return;
+    }
+    const QImage result = KelColorizing::withDestinationAlpha(picture, color, m_lastAlpha);
+    if (qAlpha(color) != 0)
+        m_lastAlpha = qAlpha(color);
+    shown->setImage(result);
+}

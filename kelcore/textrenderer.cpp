@@ -1,0 +1,521 @@
+// SPDX-License-Identifier: MIT
+#include "kelcore/textrenderer.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
+#include <QtCore/QThread>
+#include <QtGui/QGlyphRun>
+#include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace kelcore {
+
+namespace {
+
+//! The widest line and the highest block, in pixels; far beyond any screen, far below any memory.
+constexpr int maximumExtent = 1 << 18;
+//! Characters first shaped of a long paragraph: enough to fill the few lines of a usual label.
+constexpr qsizetype firstChunk = 256;
+//! Characters that must follow a line for its end to be certain, so that a word is not cut where shaping stopped.
+constexpr qsizetype lookahead = 64;
+
+bool endsParagraph(QChar character)
+{
+    switch (character.unicode()) {
+    case '\n':
+    case '\v':
+    case '\f':
+    case '\r':
+    case 0x85:
+    case QChar::ParagraphSeparator:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isVisible(QStringView text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar character) { return !character.isSpace(); });
+}
+
+int saturated(qint64 value)
+{
+    return int(std::clamp<qint64>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+//! The height of what the painter shows, in its own coordinates.
+int shownHeight(const QPainter &painter)
+{
+    if (painter.viewTransformEnabled())
+        return painter.window().height();
+    if (painter.hasClipping())
+        return int(painter.clipBoundingRect().height());
+    const QPaintDevice *device = painter.device();
+    const QRectF area(0, 0, device->width(), device->height());
+    return int(painter.deviceTransform().inverted().mapRect(area).height() / device->devicePixelRatio());
+}
+
+//! "…", shaped in a font.
+struct Ellipsis
+{
+    QList<QGlyphRun> runs;
+    qreal width = 0;
+    qreal ascent = 0;
+
+    explicit Ellipsis(const QFont &font)
+    {
+        QTextLayout layout(u"…"_s, font);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setLineWidth(maximumExtent);
+        layout.endLayout();
+        runs = line.glyphRuns();
+        width = line.naturalTextWidth();
+        ascent = line.ascent();
+    }
+};
+
+QHash<QFont, Ellipsis> &ellipses()
+{
+    static QHash<QFont, Ellipsis> hash;
+    return hash;
+}
+
+//! Few fonts are in use at a time, so that shaping "…" once for each is enough.
+Ellipsis ellipsisOf(const QFont &font)
+{
+    // The glyphs belong to a thread; only that of the application keeps them.
+    if (!qApp || qApp->thread() != QThread::currentThread())
+        return Ellipsis(font);
+    auto &known = ellipses();
+    auto found = known.constFind(font);
+    if (found == known.constEnd()) {
+        constexpr qsizetype enough = 32;
+        if (known.isEmpty())
+            qAddPostRoutine([] { ellipses().clear(); });
+        else if (known.size() >= enough)
+            known.clear();
+        found = known.insert(font, Ellipsis(font));
+    }
+    return *found;
+}
+
+//! A paragraph, shaped as far as it has been needed.
+struct Paragraph
+{
+    qsizetype begin = 0;
+    //! Where the shaped characters end in the whole text.
+    qsizetype end = 0;
+    //! Where the next paragraph begins; -1 if this is the last. Unknown while not whole.
+    qsizetype next = -1;
+    bool isWhole = false;
+    QTextLayout layout;
+
+    Paragraph(const QString &text, const QFont &font, qsizetype from)
+        : begin(from)
+    {
+        layout.setFont(font);
+        layout.setCacheEnabled(true);
+        extend(text, firstChunk);
+    }
+
+    qsizetype size() const { return end - begin; }
+
+    void extend(const QString &text, qsizetype wanted)
+    {
+        const qsizetype stop = wanted < text.size() - begin ? begin + wanted : text.size();
+        end = std::find_if(text.begin() + begin, text.begin() + stop, endsParagraph) - text.begin();
+        next = -1;
+        isWhole = end < stop || stop == text.size();
+        if (end < stop) {
+            const bool isPair = text.at(end) == u'\r' && end + 1 < text.size() && text.at(end + 1) == u'\n';
+            next = end + (isPair ? 2 : 1);
+        } else if (!isWhole && text.at(end - 1).isHighSurrogate()) {
+            --end;
+        }
+        layout.setText(text.mid(begin, size()));
+    }
+
+    bool isRightToLeft() const { return layout.text().isRightToLeft(); }
+};
+
+//! A line within its paragraph; widths are those of its text, without the room for "…".
+struct Line
+{
+    const Paragraph *paragraph;
+    int index;
+    qreal advance = 0;
+    //! The advance, and what the last letter reaches beyond it.
+    qreal extent = 0;
+    //! It ends where it was full, not where its text says so.
+    bool isFull = false;
+
+    QTextLine textLine() const { return paragraph->layout.lineAt(index); }
+
+    void measure()
+    {
+        const QTextLine line = textLine();
+        const int end = line.textStart() + line.textLength();
+        advance = line.horizontalAdvance();
+        extent = line.naturalTextWidth();
+        isFull = end < paragraph->size() && paragraph->layout.text().at(end - 1) != QChar::LineSeparator;
+    }
+};
+
+} // namespace
+
+struct TextRenderer::Picture
+{
+    struct Run
+    {
+        QPointF position;
+        QGlyphRun glyphs;
+    };
+
+    std::vector<Run> runs;
+    int height = 0;
+    int availableHeight = 0;
+    Qt::Alignment alignment;
+
+    void add(QPointF position, const QList<QGlyphRun> &glyphs)
+    {
+        for (const QGlyphRun &run : glyphs)
+            runs.push_back({position, run});
+    }
+
+    int top(const QPainter &painter) const
+    {
+        if (!(alignment & (Qt::AlignVCenter | Qt::AlignBottom)))
+            return 0;
+        const bool isKnown = availableHeight > 0 && availableHeight < maximumExtent;
+        const int room = std::max(0, (isKnown ? availableHeight : shownHeight(painter)) - height);
+        return alignment & Qt::AlignVCenter ? room / 2 : room;
+    }
+};
+
+/*!
+    The text shaped and broken into lines. Shaping is what costs; it is done once for a text and font, of no
+    more characters than are shown, and serves every width, line limit and alignment.
+*/
+struct TextRenderer::Layout
+{
+    Layout(const QString &text, const QFont &font)
+        : text(text)
+        , font(font)
+    {
+    }
+
+    void fit(int newWidth, int newMaxLines, Qt::Alignment newAlignment)
+    {
+        const bool isKept = !lines.empty() && isNatural && !((alignment | newAlignment) & Qt::AlignJustify)
+            && newWidth >= widestLine && lines.size() <= size_t(newMaxLines);
+        width = newWidth;
+        maxLines = newMaxLines;
+        alignment = newAlignment;
+        if (!isKept)
+            breakText();
+    }
+
+    QSize size() const
+    {
+        return {hasLimit() && isFilled ? width : std::min(widestLine, width), height};
+    }
+
+    std::shared_ptr<const Picture> picture(int availableHeight) const
+    {
+        auto result = std::make_shared<Picture>();
+        result->height = height;
+        result->availableHeight = availableHeight;
+        result->alignment = alignment;
+        for (const Line &line : lines) {
+            const bool isCut = cut && &line == &lines.back();
+            addLine(line, isCut ? &*cut : nullptr, *result);
+        }
+        return result;
+    }
+
+private:
+    bool hasLimit() const { return width < maximumExtent; }
+    bool isJustified() const { return hasLimit() && isJustify(alignment); }
+
+    static bool isJustify(Qt::Alignment alignment)
+    {
+        return (alignment & Qt::AlignJustify) && !(alignment & (Qt::AlignHCenter | Qt::AlignRight));
+    }
+
+    void breakText()
+    {
+        lines.clear();
+        cut.reset();
+        height = 0;
+        isFilled = false;
+        isNatural = true;
+        qsizetype begin = text.isEmpty() ? -1 : 0;
+        for (size_t i = 0; begin >= 0; ++i) {
+            if (i == paragraphs.size())
+                paragraphs.push_back(std::make_unique<Paragraph>(text, font, begin));
+            begin = breakParagraph(*paragraphs[i]) ? -1 : paragraphs[i]->next;
+        }
+        measure();
+    }
+
+    //! Adds the paragraph's lines. Returns whether the last allowed one is among them.
+    bool breakParagraph(Paragraph &paragraph)
+    {
+        const size_t firstLine = lines.size();
+        const int top = height;
+        while (true) {
+            setWrapMode(paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
+            paragraph.layout.beginLayout();
+            const Progress progress = addLines(paragraph);
+            paragraph.layout.endLayout();
+            if (progress != Progress::NeedsMoreText)
+                return progress == Progress::Full;
+            lines.resize(firstLine);
+            height = top;
+            constexpr int growth = 4;
+            paragraph.extend(text, paragraph.size() * growth);
+        }
+    }
+
+    enum class Progress { Done, Full, NeedsMoreText };
+
+    Progress addLines(Paragraph &paragraph)
+    {
+        int lineHeight = 0;
+        while (true) {
+            QTextLine line = paragraph.layout.createLine();
+            if (!line.isValid())
+                return paragraph.isWhole ? Progress::Done : Progress::NeedsMoreText;
+            line.setLineWidth(width);
+            line.setPosition({0, qreal(height)});
+            lineHeight = int(std::ceil(line.height()));
+            height += lineHeight;
+            lines.push_back({&paragraph, line.lineNumber()});
+            if (lines.size() < size_t(maxLines) && height + lineHeight <= maximumExtent)
+                continue;
+            const int end = line.textStart() + line.textLength();
+            if (!paragraph.isWhole && end + lookahead > paragraph.size())
+                return Progress::NeedsMoreText;
+            if (isVisible(QStringView(text).mid(paragraph.begin + end)))
+                cutLine(paragraph, line);
+            return Progress::Full;
+        }
+    }
+
+    //! Makes room for "…" at the end of the line. Too narrow a line keeps a letter, which is not shown then.
+    void cutLine(Paragraph &paragraph, QTextLine &line)
+    {
+        cut.emplace(ellipsisOf(font));
+        setWrapMode(paragraph, QTextOption::WrapAnywhere);
+        line.setLineWidth(std::max<qreal>(0, width - cut->width));
+    }
+
+    void setWrapMode(Paragraph &paragraph, QTextOption::WrapMode wrapMode) const
+    {
+        QTextOption option(isJustified() ? Qt::AlignJustify : Qt::AlignLeft);
+        option.setWrapMode(wrapMode);
+        paragraph.layout.setTextOption(option);
+    }
+
+    void measure()
+    {
+        qreal widest = 0;
+        for (Line &line : lines) {
+            line.measure();
+            isNatural = isNatural && !line.isFull;
+            isFilled = isFilled || (line.isFull && isJustified());
+            widest = std::max(widest, line.extent);
+        }
+        if (cut) {
+            isNatural = false;
+            isFilled = true;
+            if (!isTextShown(lines.back(), *cut))
+                lines.back().advance = lines.back().extent = 0;
+            widest = std::max(widest, lines.back().extent + cut->width);
+        }
+        widestLine = int(std::min<qreal>(std::ceil(widest), maximumExtent));
+    }
+
+    bool isTextShown(const Line &line, const Ellipsis &ellipsis) const
+    {
+        return line.extent + ellipsis.width <= width;
+    }
+
+    void addLine(const Line &line, const Ellipsis *ellipsis, Picture &picture) const
+    {
+        const QTextLine textLine = line.textLine();
+        const bool isRightToLeft = line.paragraph->isRightToLeft();
+        const qreal room = ellipsis ? ellipsis->width : 0;
+        const qreal start = lineStart(line, room, isRightToLeft);
+        if (line.advance > 0)
+            picture.add({start + (isRightToLeft ? room : 0), 0}, textLine.glyphRuns());
+        if (!ellipsis || room > width)
+            return;
+        qreal x = isRightToLeft ? start : start + line.advance;
+        if (isJustified()) {
+            const qreal slack = width - room - (line.isFull ? 0 : line.advance);
+            x = isRightToLeft ? (line.isFull ? 0 : slack) : (line.isFull ? slack : line.advance);
+        }
+        picture.add({x, textLine.y() + textLine.ascent() - ellipsis->ascent}, ellipsis->runs);
+    }
+
+    //! Where the line begins. Justified lines of either direction are placed by the text engine.
+    qreal lineStart(const Line &line, qreal room, bool isRightToLeft) const
+    {
+        if (isJustified())
+            return 0;
+        const int area = hasLimit() ? width : widestLine;
+        const qreal slack = area - line.advance - room;
+        if (alignment & Qt::AlignHCenter)
+            return std::floor(slack / 2);
+        const bool isSwapped = isRightToLeft && !(alignment & Qt::AlignAbsolute);
+        const bool isRight = bool(alignment & Qt::AlignRight) != isSwapped;
+        // What the last letter reaches beyond its advance stays inside.
+        return isRight ? std::floor(std::min(slack, area - line.extent - room)) : 0;
+    }
+
+    QString text;
+    QFont font;
+    int width = 0;
+    int maxLines = 0;
+    Qt::Alignment alignment;
+    std::vector<std::unique_ptr<Paragraph>> paragraphs;
+    std::vector<Line> lines;
+    //! Set where the last line is cut.
+    std::optional<Ellipsis> cut;
+    //! Rounded up.
+    int widestLine = 0;
+    int height = 0;
+    //! A line takes all of the width.
+    bool isFilled = false;
+    //! No line was broken or cut for want of room.
+    bool isNatural = false;
+};
+
+TextRenderer::TextRenderer() = default;
+
+TextRenderer::TextRenderer(const TextRenderer &other)
+{
+    *this = other;
+}
+
+TextRenderer &TextRenderer::operator=(const TextRenderer &other)
+{
+    if (this == &other)
+        return *this;
+    other.makePicture();
+    m_text = other.m_text;
+    m_font = other.m_font;
+    m_alignment = other.m_alignment;
+    m_maxLineCount = other.m_maxLineCount;
+    m_textWidth = other.m_textWidth;
+    m_availableHeight = other.m_availableHeight;
+    m_isShaped = false;
+    m_size = other.m_size;
+    m_layout.reset();
+    m_picture = other.m_picture;
+    return *this;
+}
+
+TextRenderer::~TextRenderer() = default;
+
+QString TextRenderer::text() const
+{
+    return m_text;
+}
+
+void TextRenderer::setText(const QString &text)
+{
+    m_isShaped = m_isShaped && text == m_text;
+    m_text = text;
+}
+
+QFont TextRenderer::textFont() const
+{
+    return m_font;
+}
+
+void TextRenderer::setTextFont(const QFont &font)
+{
+    m_isShaped = m_isShaped && font == m_font;
+    m_font = font;
+}
+
+Qt::Alignment TextRenderer::textAlignment() const
+{
+    return m_alignment;
+}
+
+void TextRenderer::setTextAlignment(Qt::Alignment alignment)
+{
+    m_alignment = alignment;
+}
+
+int TextRenderer::maxLineCount() const
+{
+    return m_maxLineCount;
+}
+
+void TextRenderer::setMaxLineCount(int count)
+{
+    m_maxLineCount = count;
+}
+
+int TextRenderer::textWidth() const
+{
+    return m_textWidth;
+}
+
+void TextRenderer::setTextWidth(int width)
+{
+    m_textWidth = width;
+}
+
+void TextRenderer::setAvailableHeight(int height)
+{
+    m_availableHeight = height;
+}
+
+void TextRenderer::relayout()
+{
+    if (!m_isShaped || !m_layout)
+        m_layout = std::make_unique<Layout>(m_text, m_font);
+    m_isShaped = true;
+    const int width = m_textWidth > 0 ? std::min(m_textWidth, maximumExtent) : maximumExtent;
+    m_layout->fit(width, m_maxLineCount > 0 ? m_maxLineCount : unlimited, m_alignment);
+    m_size = m_layout->size();
+    m_picture.reset();
+}
+
+QSize TextRenderer::boundingSize(const QMargins &margins) const
+{
+    return {saturated(qint64(m_size.width()) + margins.left() + margins.right()),
+            saturated(qint64(m_size.height()) + margins.top() + margins.bottom())};
+}
+
+void TextRenderer::draw(QPainter &painter) const
+{
+    makePicture();
+    if (!m_picture)
+        return;
+    const int top = m_picture->top(painter);
+    for (const Picture::Run &run : m_picture->runs)
+        painter.drawGlyphRun(run.position + QPointF(0, top), run.glyphs);
+}
+
+void TextRenderer::makePicture() const
+{
+    if (!m_picture && m_layout)
+        m_picture = m_layout->picture(m_availableHeight);
+}
+
+} // namespace kelcore
