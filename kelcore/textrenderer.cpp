@@ -21,8 +21,13 @@ namespace {
 
 //! The widest line and the highest block, in pixels; far beyond any screen, far below any memory.
 constexpr int maximumExtent = 1 << 18;
+//! Characters looked at, for text of which any number fits: without width, or spaces at the end of a line.
+constexpr qsizetype maximumSize = 1 << 20;
 //! Characters first shaped of a long paragraph: enough to fill the few lines of a usual label.
 constexpr qsizetype firstChunk = 256;
+//! Characters shaped at a time where a paragraph has many lines: the text engine looks at all of a long word for
+//! each line of it.
+constexpr qsizetype fullChunk = 4096;
 //! Characters that must follow a line for its end to be certain, so that a word is not cut where shaping stopped.
 constexpr qsizetype lookahead = 64;
 
@@ -60,7 +65,7 @@ int shownHeight(const QPainter &painter)
         return int(painter.clipBoundingRect().height());
     const QPaintDevice *device = painter.device();
     const QRectF area(0, 0, device->width(), device->height());
-    return int(painter.deviceTransform().inverted().mapRect(area).height() / device->devicePixelRatio());
+    return int(painter.deviceTransform().inverted().mapRect(area).height());
 }
 
 //! "…", shaped in a font.
@@ -108,19 +113,24 @@ Ellipsis ellipsisOf(const QFont &font)
     return *found;
 }
 
-//! A paragraph, shaped as far as it has been needed.
+//! A paragraph, or the next lines of one, shaped as far as it has been needed.
 struct Paragraph
 {
     qsizetype begin = 0;
+    //! Auto at the beginning of a paragraph.
+    Qt::LayoutDirection direction = Qt::LayoutDirectionAuto;
     //! Where the shaped characters end in the whole text.
     qsizetype end = 0;
     //! Where the next paragraph begins; -1 if this is the last. Unknown while not whole.
     qsizetype next = -1;
     bool isWhole = false;
+    //! What follows is more lines of the same paragraph.
+    bool isSplit = false;
     QTextLayout layout;
 
-    Paragraph(const QString &text, const QFont &font, qsizetype from)
+    Paragraph(const QString &text, const QFont &font, qsizetype from, Qt::LayoutDirection direction)
         : begin(from)
+        , direction(direction)
     {
         layout.setFont(font);
         layout.setCacheEnabled(true);
@@ -131,42 +141,58 @@ struct Paragraph
 
     void extend(const QString &text, qsizetype wanted)
     {
-        const qsizetype stop = wanted < text.size() - begin ? begin + wanted : text.size();
+        const qsizetype last = std::min(text.size(), maximumSize);
+        const qsizetype stop = std::min(begin + wanted, last);
         end = std::find_if(text.begin() + begin, text.begin() + stop, endsParagraph) - text.begin();
         next = -1;
-        isWhole = end < stop || stop == text.size();
+        isWhole = end < stop || stop == last;
         if (end < stop) {
             const bool isPair = text.at(end) == u'\r' && end + 1 < text.size() && text.at(end + 1) == u'\n';
             next = end + (isPair ? 2 : 1);
+            if (next > last)
+                next = -1;
         } else if (!isWhole && text.at(end - 1).isHighSurrogate()) {
             --end;
         }
-        layout.setText(text.mid(begin, size()));
+        // The width of a tab would depend on where it stands.
+        layout.setText(text.mid(begin, size()).replace(u'\t', u' '));
     }
 
-    bool isRightToLeft() const { return layout.text().isRightToLeft(); }
+    bool isRightToLeft() const
+    {
+        if (direction == Qt::LayoutDirectionAuto)
+            return layout.text().isRightToLeft();
+        return direction == Qt::RightToLeft;
+    }
 };
 
 //! A line within its paragraph; widths are those of its text, without the room for "…".
 struct Line
 {
-    const Paragraph *paragraph;
+    Paragraph *paragraph;
     int index;
+    int y;
+    int length = 0;
     qreal advance = 0;
     //! The advance, and what the last letter reaches beyond it.
     qreal extent = 0;
     //! It ends where it was full, not where its text says so.
     bool isFull = false;
+    //! Spaces at the end of a text count where they fit, and take no room where they do not.
+    bool endsInSpace = false;
 
     QTextLine textLine() const { return paragraph->layout.lineAt(index); }
 
     void measure()
     {
         const QTextLine line = textLine();
-        const int end = line.textStart() + line.textLength();
+        length = line.textLength();
         advance = line.horizontalAdvance();
         extent = line.naturalTextWidth();
-        isFull = end < paragraph->size() && paragraph->layout.text().at(end - 1) != QChar::LineSeparator;
+        const int end = line.textStart() + length;
+        const QString text = paragraph->layout.text();
+        isFull = end < text.size() && text.at(end - 1) != QChar::LineSeparator;
+        endsInSpace = length > 0 && text.at(end - 1).isSpace();
     }
 };
 
@@ -258,11 +284,20 @@ private:
         height = 0;
         isFilled = false;
         isNatural = true;
+        if (isSplit)
+            paragraphs.clear();
+        isSplit = false;
         qsizetype begin = text.isEmpty() ? -1 : 0;
+        auto direction = Qt::LayoutDirectionAuto;
         for (size_t i = 0; begin >= 0; ++i) {
             if (i == paragraphs.size())
-                paragraphs.push_back(std::make_unique<Paragraph>(text, font, begin));
-            begin = breakParagraph(*paragraphs[i]) ? -1 : paragraphs[i]->next;
+                paragraphs.push_back(std::make_unique<Paragraph>(text, font, begin, direction));
+            Paragraph &paragraph = *paragraphs[i];
+            const bool isLast = breakParagraph(paragraph);
+            begin = isLast ? -1 : paragraph.next;
+            direction = Qt::LayoutDirectionAuto;
+            if (paragraph.isSplit)
+                direction = paragraph.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
         }
         measure();
     }
@@ -273,12 +308,14 @@ private:
         const size_t firstLine = lines.size();
         const int top = height;
         while (true) {
-            setWrapMode(paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
+            setOption(paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
             paragraph.layout.beginLayout();
             const Progress progress = addLines(paragraph);
             paragraph.layout.endLayout();
             if (progress != Progress::NeedsMoreText)
                 return progress == Progress::Full;
+            if (paragraph.size() >= fullChunk && split(paragraph, firstLine))
+                return false;
             lines.resize(firstLine);
             height = top;
             constexpr int growth = 4;
@@ -286,23 +323,41 @@ private:
         }
     }
 
+    //! Leaves what follows the paragraph's certain lines to another one. Returns false where none is certain.
+    bool split(Paragraph &paragraph, size_t firstLine)
+    {
+        const auto end = [](const Line &line) {
+            const QTextLine textLine = line.textLine();
+            return textLine.textStart() + textLine.textLength();
+        };
+        while (lines.size() > firstLine && end(lines.back()) + lookahead > paragraph.size()) {
+            height = lines.back().y;
+            lines.pop_back();
+        }
+        if (lines.size() == firstLine)
+            return false;
+        paragraph.next = paragraph.begin + end(lines.back());
+        paragraph.isSplit = isSplit = true;
+        return true;
+    }
+
     enum class Progress { Done, Full, NeedsMoreText };
 
     Progress addLines(Paragraph &paragraph)
     {
-        int lineHeight = 0;
         while (true) {
             QTextLine line = paragraph.layout.createLine();
             if (!line.isValid())
                 return paragraph.isWhole ? Progress::Done : Progress::NeedsMoreText;
             line.setLineWidth(width);
             line.setPosition({0, qreal(height)});
-            lineHeight = int(std::ceil(line.height()));
+            lines.push_back({&paragraph, line.lineNumber(), height});
+            const int lineHeight = int(std::ceil(line.height()));
             height += lineHeight;
-            lines.push_back({&paragraph, line.lineNumber()});
             if (lines.size() < size_t(maxLines) && height + lineHeight <= maximumExtent)
                 continue;
             const int end = line.textStart() + line.textLength();
+            isNatural = paragraph.begin + end == text.size() && !text.endsWith(QChar::LineSeparator);
             if (!paragraph.isWhole && end + lookahead > paragraph.size())
                 return Progress::NeedsMoreText;
             if (isVisible(QStringView(text).mid(paragraph.begin + end)))
@@ -315,14 +370,15 @@ private:
     void cutLine(Paragraph &paragraph, QTextLine &line)
     {
         cut.emplace(ellipsisOf(font));
-        setWrapMode(paragraph, QTextOption::WrapAnywhere);
+        setOption(paragraph, QTextOption::WrapAnywhere);
         line.setLineWidth(std::max<qreal>(0, width - cut->width));
     }
 
-    void setWrapMode(Paragraph &paragraph, QTextOption::WrapMode wrapMode) const
+    static void setOption(Paragraph &paragraph, QTextOption::WrapMode wrapMode, Qt::Alignment alignment = Qt::AlignLeft)
     {
-        QTextOption option(isJustified() ? Qt::AlignJustify : Qt::AlignLeft);
+        QTextOption option(alignment);
         option.setWrapMode(wrapMode);
+        option.setTextDirection(paragraph.direction);
         paragraph.layout.setTextOption(option);
     }
 
@@ -331,7 +387,7 @@ private:
         qreal widest = 0;
         for (Line &line : lines) {
             line.measure();
-            isNatural = isNatural && !line.isFull;
+            isNatural = isNatural && !line.isFull && !line.endsInSpace;
             isFilled = isFilled || (line.isFull && isJustified());
             widest = std::max(widest, line.extent);
         }
@@ -343,6 +399,49 @@ private:
             widest = std::max(widest, lines.back().extent + cut->width);
         }
         widestLine = int(std::min<qreal>(std::ceil(widest), maximumExtent));
+        if (!isFilled || !hasLimit())
+            widen();
+    }
+
+    /*!
+        Widens the block to the least width that brings the same lines again: for letters that lean over what
+        follows them, the text engine asks for more room than it reports.
+    */
+    void widen()
+    {
+        constexpr int farthestLean = 64;
+        const int natural = std::min(widestLine, width);
+        for (int wider = natural; wider <= std::min(natural + farthestLean, width); ++wider) {
+            if (breaksAlike(wider)) {
+                widestLine = std::max(widestLine, wider);
+                return;
+            }
+        }
+        breaksAlike(width);
+    }
+
+    //! Breaks the text anew. Returns whether this gives the known lines; if not, they must be broken again.
+    bool breaksAlike(int newWidth) const
+    {
+        for (auto line = lines.cbegin(); line != lines.cend();) {
+            Paragraph *paragraph = line->paragraph;
+            bool isAlike = true;
+            setOption(*paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
+            paragraph->layout.beginLayout();
+            for (; isAlike && line != lines.cend() && line->paragraph == paragraph; ++line) {
+                QTextLine textLine = paragraph->layout.createLine();
+                if (cut && &*line == &lines.back())
+                    setOption(*paragraph, QTextOption::WrapAnywhere);
+                textLine.setLineWidth(newWidth - (cut && &*line == &lines.back() ? cut->width : 0));
+                textLine.setPosition({0, qreal(line->y)});
+                isAlike = textLine.textLength() == line->length && textLine.horizontalAdvance() == line->advance
+                    && textLine.naturalTextWidth() == line->extent;
+            }
+            paragraph->layout.endLayout();
+            if (!isAlike)
+                return false;
+        }
+        return true;
     }
 
     bool isTextShown(const Line &line, const Ellipsis &ellipsis) const
@@ -352,27 +451,24 @@ private:
 
     void addLine(const Line &line, const Ellipsis *ellipsis, Picture &picture) const
     {
-        const QTextLine textLine = line.textLine();
+        const bool isStretched = isJustified() && line.isFull;
         const bool isRightToLeft = line.paragraph->isRightToLeft();
         const qreal room = ellipsis ? ellipsis->width : 0;
-        const qreal start = lineStart(line, room, isRightToLeft);
-        if (line.advance > 0)
+        const qreal start = isStretched ? 0 : lineStart(line, room, isRightToLeft);
+        const QTextLine textLine = line.textLine();
+        if (line.advance > 0) {
+            setOption(*line.paragraph, QTextOption::ManualWrap, isStretched ? Qt::AlignJustify : Qt::AlignLeft);
             picture.add({start + (isRightToLeft ? room : 0), 0}, textLine.glyphRuns());
+        }
         if (!ellipsis || room > width)
             return;
-        qreal x = isRightToLeft ? start : start + line.advance;
-        if (isJustified()) {
-            const qreal slack = width - room - (line.isFull ? 0 : line.advance);
-            x = isRightToLeft ? (line.isFull ? 0 : slack) : (line.isFull ? slack : line.advance);
-        }
-        picture.add({x, textLine.y() + textLine.ascent() - ellipsis->ascent}, ellipsis->runs);
+        const qreal end = isStretched ? width - room : start + line.advance;
+        picture.add({isRightToLeft ? start : end, textLine.y() + textLine.ascent() - ellipsis->ascent},
+                    ellipsis->runs);
     }
 
-    //! Where the line begins. Justified lines of either direction are placed by the text engine.
     qreal lineStart(const Line &line, qreal room, bool isRightToLeft) const
     {
-        if (isJustified())
-            return 0;
         const int area = hasLimit() ? width : widestLine;
         const qreal slack = area - line.advance - room;
         if (alignment & Qt::AlignHCenter)
@@ -395,6 +491,8 @@ private:
     //! Rounded up.
     int widestLine = 0;
     int height = 0;
+    //! Some paragraph is in several parts, which holds for this width only.
+    bool isSplit = false;
     //! A line takes all of the width.
     bool isFilled = false;
     //! No line was broken or cut for want of room.

@@ -36,13 +36,14 @@ namespace kelcore {
       to end in "…" within the text width, and the block is exactly as wide as the text width. In a
       right-to-left paragraph "…" stands at the left. Where not even "…" fits, the line is empty.
     - A label holds at most 262144 pixels in width without a text width, and as many in height; what lies
-      beyond is cut in the same way. This bounds time and memory for text of any length: no more text is
-      looked at than can be shown.
+      beyond is cut in the same way. Nothing is shown beyond 1048576 characters. This bounds time and memory
+      for text of any length: no more of it is looked at than can be shown.
 
     Size
     - The block is the smallest whole number of pixels that holds the lines, at most the text width.
       Laying it out again at exactly this width gives the same lines and the same size. Empty text has no
       lines: 0 × 0.
+    - Tabs are as wide as spaces. Spaces at the end of the text count where they fit.
 
     Alignment
     - Horizontal, within the text width, without one within the widest line: centre wins over right, right
