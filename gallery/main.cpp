@@ -42,10 +42,13 @@ bool useBundledFont()
     QStringList families;
     const QStringList files = folder.entryList(QDir::Files);
     for (const QString &file : files)
-        families += QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(folder.filePath(file)));
+        families +=
+            QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(folder.filePath(file)));
     if (families.isEmpty())
         return false;
-    QFont font(families.constFirst());
+    // The bundled one has no Hebrew and no Arabic.
+    families.removeDuplicates();
+    QFont font(families + QStringList{QStringLiteral("DejaVu Sans")});
     font.setPixelSize(20);
     QGuiApplication::setFont(font);
     return true;
@@ -54,15 +57,15 @@ bool useBundledFont()
 QString whatIsMissing(const QStringList &importPaths, const QList<QQmlError> &errors)
 {
     const auto module = QStringLiteral("Kelui/UI/Qml/Controls/Generic/qmldir");
-    const bool isModuleFound = std::any_of(importPaths.cbegin(), importPaths.cend(), [&](const QString &path) {
-        return QFileInfo::exists(QDir(path).filePath(module));
-    });
+    const bool isModuleFound = std::any_of(importPaths.cbegin(), importPaths.cend(),
+        [&](const QString &path) { return QFileInfo::exists(QDir(path).filePath(module)); });
     QString message = QStringLiteral("cannot show its pages\n");
     for (const QQmlError &error : errors)
         message += QStringLiteral("  %1\n").arg(error.toString());
     if (isModuleFound)
         return message;
-    message += QStringLiteral("The QML module Kelui.UI.Qml.Controls.Generic is missing. Looked for %1 in:\n").arg(module);
+    message += QStringLiteral("The QML module Kelui.UI.Qml.Controls.Generic is missing. Looked for %1 in:\n")
+                   .arg(module);
     for (const QString &path : importPaths)
         message += QStringLiteral("  %1\n").arg(path);
     return message + QStringLiteral("Build it, or name the folder that holds it with --import.");
@@ -81,13 +84,20 @@ int main(int argc, char **argv)
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kelui"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Shows the controls of Kelui. Keys: arrows, OK (Return), Back (Escape or Backspace), digits for pages."));
+    parser.setApplicationDescription(QStringLiteral("Shows the controls of Kelui. Keys: arrows, OK (Return), "
+                                                    "Back (Escape or Backspace), digits for pages."));
     parser.addHelpOption();
-    const QCommandLineOption shotsOption(QStringLiteral("shots"), QStringLiteral("Write pictures of all pages into DIR and quit; needs no display."), QStringLiteral("DIR"));
-    const QCommandLineOption sizeOption(QStringLiteral("size"), QStringLiteral("Size of the window or of the pictures."), QStringLiteral("WxH"), QStringLiteral("1280x720"));
-    const QCommandLineOption pageOption(QStringLiteral("page"), QStringLiteral("Open a page by its title or number."), QStringLiteral("NAME"), QStringLiteral("1"));
-    const QCommandLineOption importOption(QStringLiteral("import"), QStringLiteral("Look for the module in DIR instead of the folder that it was built into."), QStringLiteral("DIR"));
+    const QCommandLineOption shotsOption(QStringLiteral("shots"),
+        QStringLiteral("Write pictures of all pages into DIR and quit; needs no display."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption sizeOption(QStringLiteral("size"),
+        QStringLiteral("Size of the window or of the pictures."), QStringLiteral("WxH"),
+        QStringLiteral("1280x720"));
+    const QCommandLineOption pageOption(QStringLiteral("page"),
+        QStringLiteral("Open a page by its title or number."), QStringLiteral("NAME"), QStringLiteral("1"));
+    const QCommandLineOption importOption(QStringLiteral("import"),
+        QStringLiteral("Look for the module in DIR instead of the folder that it was built into."),
+        QStringLiteral("DIR"));
     parser.addOptions({shotsOption, sizeOption, pageOption, importOption});
     parser.process(application);
 
@@ -111,10 +121,11 @@ int main(int argc, char **argv)
     const auto collecting = QObject::connect(&engine, &QQmlEngine::warnings, &engine,
         [&errors](const QList<QQmlError> &warnings) { errors += warnings; });
     engine.setInitialProperties({{QStringLiteral("isAnimated"), !isTakingShots},
-        {QStringLiteral("width"), size.width()},
-        {QStringLiteral("height"), size.height()}});
+        {QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}});
     engine.loadFromModule("Kelui.Gallery", "Main");
-    auto *window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    auto *window = engine.rootObjects().isEmpty()
+        ? nullptr
+        : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     if (!window)
         return fail(whatIsMissing(engine.importPathList(), errors));
     QObject::disconnect(collecting);
@@ -128,7 +139,8 @@ int main(int argc, char **argv)
     if (page < 0) {
         QStringList titles;
         QMetaObject::invokeMethod(window, "pageTitles", qReturnArg(titles));
-        return fail(QStringLiteral("has no page '%1'; there are: %2").arg(parser.value(pageOption), titles.join(QStringLiteral(", "))));
+        return fail(QStringLiteral("has no page '%1'; there are: %2")
+                .arg(parser.value(pageOption), titles.join(QStringLiteral(", "))));
     }
     QMetaObject::invokeMethod(window, "openPage", page);
     window->show();

@@ -17,7 +17,8 @@ bool isLoading(const QQuickItem &item)
     if (item.inherits("QQuickImageBase") && item.property("status").toInt() == loadingStatus)
         return true;
     const QList<QQuickItem *> children = item.childItems();
-    return std::any_of(children.cbegin(), children.cend(), [](const QQuickItem *child) { return isLoading(*child); });
+    return std::any_of(
+        children.cbegin(), children.cend(), [](const QQuickItem *child) { return isLoading(*child); });
 }
 
 //! Lets everything that was posted happen, and pictures load.

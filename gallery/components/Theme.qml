@@ -49,7 +49,7 @@ QtObject {
     })
 
     function sizedFont(pixelSize: int, weight: int): font {
-        return Qt.font({ family: Application.font.family, pixelSize: pixelSize, weight: weight });
+        return Qt.font({ pixelSize: pixelSize, weight: weight });
     }
 
     function icon(name: string): string {
