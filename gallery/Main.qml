@@ -271,6 +271,12 @@ Window {
             width: 840
             height: 484
             sourceComponent: _window.currentIndex >= 0 ? _window.pages[_window.currentIndex].page : null
+
+            // Why is on the console already; a window without its page would be no help.
+            onStatusChanged: {
+                if (status === Loader.Error)
+                    Qt.exit(1);
+            }
         }
 
         Row {

@@ -66,6 +66,10 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
     for (int page = 0; page < titles.size(); ++page) {
         QMetaObject::invokeMethod(&window, "openPage", page);
         settle(window);
+        if (!window.property("currentPage").value<QQuickItem *>()) {
+            errors << "kelui-gallery: cannot show the page " << titles.at(page) << '\n';
+            return false;
+        }
         QStringList names;
         QMetaObject::invokeMethod(&window, "shotNames", qReturnArg(names));
         for (int shot = 0; shot < names.size(); ++shot) {

@@ -93,7 +93,7 @@ GalleryPage {
 
     Caption {
         y: 112
-        text: "isFixedWidth: true — OK toggles checked"
+        text: "isFixedWidth: true, animated colours — OK toggles checked"
     }
 
     Row {

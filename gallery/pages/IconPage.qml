@@ -62,7 +62,7 @@ GalleryPage {
         required property string title
         required property int method
 
-        spacing: 8
+        spacing: 12
 
         Repeater {
             model: ["star", "heart", "television"]

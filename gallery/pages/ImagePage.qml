@@ -8,6 +8,8 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 GalleryPage {
     id: _page
 
+    property string clippedPicture: "city"
+
     caption: "RoundedImage draws the whole picture, ClippableImage a window onto its middle"
     captionRussian: "RoundedImage рисует картинку целиком, ClippableImage — окно на её середину"
     shots: [
@@ -37,6 +39,8 @@ GalleryPage {
         width: 272
         height: 222
         padding: 0
+
+        onClicked: _page.clippedPicture = picture
 
         Generic.RoundedImage {
             width: 272
@@ -102,7 +106,7 @@ GalleryPage {
             x: (400 - width) / 2
             width: _window.widths[_window.current]
             height: 180
-            image.source: Theme.picture("city")
+            image.source: Theme.picture(_page.clippedPicture)
             image.width: 400
             image.height: 225
             image.sourceSize: Qt.size(800, 450)

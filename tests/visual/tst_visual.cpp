@@ -26,9 +26,10 @@ Outcome runGallery(const QStringList &arguments)
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(KELUI_GALLERY), arguments);
     if (!process.waitForFinished(90'000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, process.errorString()};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-        QString::fromUtf8(process.readAllStandardError())};
+        return {.exitCode = -1, .output = {}, .errors = process.errorString()};
+    return {.exitCode = process.exitCode(),
+        .output = QString::fromUtf8(process.readAllStandardOutput()),
+        .errors = QString::fromUtf8(process.readAllStandardError())};
 }
 
 //! Why the references do not hold here, empty where they do: they show one rasteriser and one set of fonts.
