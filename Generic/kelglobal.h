@@ -161,7 +161,13 @@ public:
     Q_ENUM(MediaBlockType)
 
     //! Where a view can or must scroll; bit values.
-    enum ScrollDirection { ScrollNotNeeded = 0, ScrollDown = 1, ScrollUp = 2, ScrollLeft = 4, ScrollRight = 8 };
+    enum ScrollDirection {
+        ScrollNotNeeded = 0,
+        ScrollDown = 1,
+        ScrollUp = 2,
+        ScrollLeft = 4,
+        ScrollRight = 8
+    };
     Q_ENUM(ScrollDirection)
 
     //! The phase of a key event.

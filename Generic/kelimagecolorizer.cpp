@@ -52,9 +52,8 @@ QImage recolored(const QImage &picture, NewPixel newPixel)
     case QImage::Format_RGB32:
         return mapped(picture, [=](QRgb pixel) { return newPixel(alphaMask, (pixel & colorMask) != 0); });
     default:
-        return mapped(picture.convertToFormat(QImage::Format_ARGB32), [=](QRgb pixel) {
-            return newPixel(pixel & alphaMask, (pixel & colorMask) != 0);
-        });
+        return mapped(picture.convertToFormat(QImage::Format_ARGB32),
+            [=](QRgb pixel) { return newPixel(pixel & alphaMask, (pixel & colorMask) != 0); });
     }
 }
 
@@ -112,8 +111,8 @@ void KelImageColorizer::setSourceItem(QQuickItem *item)
     m_statusConnection = {};
     m_sourceItem = item;
     if (auto *image = qobject_cast<QQuickImage *>(item)) {
-        m_statusConnection = connect(image, &QQuickImageBase::statusChanged,
-                                     this, &KelImageColorizer::tryColorizeImage);
+        m_statusConnection =
+            connect(image, &QQuickImageBase::statusChanged, this, &KelImageColorizer::tryColorizeImage);
     }
     Q_EMIT sourceItemChanged();
     tryColorizeImage();

@@ -43,7 +43,8 @@ public:
     void setColor(const QColor &color);
 
     //! Default: SourceAlpha. Values without a name work as SourceAlpha.
-    Q_PROPERTY(ColoringMethod coloringMethod READ coloringMethod WRITE setColoringMethod NOTIFY coloringMethodChanged)
+    Q_PROPERTY(ColoringMethod coloringMethod READ coloringMethod WRITE setColoringMethod NOTIFY
+            coloringMethodChanged)
     ColoringMethod coloringMethod() const;
     void setColoringMethod(ColoringMethod method);
 

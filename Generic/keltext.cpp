@@ -112,7 +112,8 @@ void KelText::setFont(const QFont &font)
     if (m_renderer.textFont() == font)
         return;
     m_renderer.setTextFont(font);
-    // Deliberately no relayout: the implicit size stays that of the previous font until another input changes.
+    // Deliberately no relayout: the implicit size stays that of the previous font until another input
+    // changes.
     update();
     Q_EMIT fontChanged();
 }
@@ -201,7 +202,8 @@ double KelText::textWidth() const
 
 void KelText::setTextWidth(double width)
 {
-    // Compared with the int held: 100.9 counts as a change of 100 each time, and so do NaN and numberMaxValue.
+    // Compared with the int held: 100.9 counts as a change of 100 each time, and so do NaN and
+    // numberMaxValue.
     if (qFuzzyCompare(double(m_renderer.textWidth()), width))
         return;
     m_renderer.setTextWidth(toPixels(width));
@@ -257,7 +259,7 @@ void KelText::updateLayout()
 //! Whether nobody asked for a picture of a certain kind.
 bool KelText::hasDefaultRenderSettings() const
 {
-    return renderTarget() == Image && performanceHints() == PerformanceHints() && !opaquePainting() && !mipmap()
-        && !antialiasing() && fillColor() == Qt::transparent && contentsScale() == 1.0 && contentsSize().isEmpty()
-        && textureSize().isEmpty();
+    return renderTarget() == Image && performanceHints() == PerformanceHints() && !opaquePainting()
+        && !mipmap() && !antialiasing() && fillColor() == Qt::transparent && contentsScale() == 1.0
+        && contentsSize().isEmpty() && textureSize().isEmpty();
 }

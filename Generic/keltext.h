@@ -49,12 +49,14 @@ public:
         Default: Qt.AlignLeft. Vertical flags in the value set the vertical alignment too, so that one
         value can serve both properties. A value with such flags always counts as a change.
     */
-    Q_PROPERTY(Qt::Alignment horizontalAlignment READ hAlign WRITE setHAlign NOTIFY horizontalAlignmentChanged FINAL)
+    Q_PROPERTY(
+        Qt::Alignment horizontalAlignment READ hAlign WRITE setHAlign NOTIFY horizontalAlignmentChanged FINAL)
     Qt::Alignment hAlign() const;
     void setHAlign(Qt::Alignment alignment);
 
     //! Default: Qt.AlignTop. Horizontal flags in the value set the horizontal alignment too.
-    Q_PROPERTY(Qt::Alignment verticalAlignment READ vAlign WRITE setVAlign NOTIFY verticalAlignmentChanged FINAL)
+    Q_PROPERTY(
+        Qt::Alignment verticalAlignment READ vAlign WRITE setVAlign NOTIFY verticalAlignmentChanged FINAL)
     Qt::Alignment vAlign() const;
     void setVAlign(Qt::Alignment alignment);
 
@@ -64,7 +66,8 @@ public:
     void setWrapMode(WrapMode mode);
 
     //! The most lines; 0 or less means no limit, as does the default 2147483647.
-    Q_PROPERTY(int maximumLineCount READ maximumLineCount WRITE setMaximumLineCount NOTIFY maximumLineCountChanged FINAL)
+    Q_PROPERTY(int maximumLineCount READ maximumLineCount WRITE setMaximumLineCount NOTIFY
+            maximumLineCountChanged FINAL)
     int maximumLineCount() const;
     void setMaximumLineCount(int count);
 

@@ -25,10 +25,11 @@ constexpr int maximumExtent = 1 << 18;
 constexpr qsizetype maximumSize = 1 << 20;
 //! Characters first shaped of a long paragraph: enough to fill the few lines of a usual label.
 constexpr qsizetype firstChunk = 256;
-//! Characters shaped at a time where a paragraph has many lines: the text engine looks at all of a long word for
-//! each line of it.
+//! Characters shaped at a time where a paragraph has many lines: the text engine looks at all of a long word
+//! for each line of it.
 constexpr qsizetype fullChunk = 4096;
-//! Characters that must follow a line for its end to be certain, so that a word is not cut where shaping stopped.
+//! Characters that must follow a line for its end to be certain, so that a word is not cut where shaping
+//! stopped.
 constexpr qsizetype lookahead = 64;
 
 bool endsParagraph(QChar character)
@@ -250,10 +251,7 @@ struct TextRenderer::Layout
             breakText();
     }
 
-    QSize size() const
-    {
-        return {hasLimit() && isFilled ? width : std::min(widestLine, width), height};
-    }
+    QSize size() const { return {hasLimit() && isFilled ? width : std::min(widestLine, width), height}; }
 
     std::shared_ptr<const Picture> picture(int availableHeight) const
     {
@@ -374,7 +372,8 @@ private:
         line.setLineWidth(std::max<qreal>(0, width - cut->width));
     }
 
-    static void setOption(Paragraph &paragraph, QTextOption::WrapMode wrapMode, Qt::Alignment alignment = Qt::AlignLeft)
+    static void setOption(
+        Paragraph &paragraph, QTextOption::WrapMode wrapMode, Qt::Alignment alignment = Qt::AlignLeft)
     {
         QTextOption option(alignment);
         option.setWrapMode(wrapMode);
@@ -434,7 +433,8 @@ private:
                     setOption(*paragraph, QTextOption::WrapAnywhere);
                 textLine.setLineWidth(newWidth - (cut && &*line == &lines.back() ? cut->width : 0));
                 textLine.setPosition({0, qreal(line->y)});
-                isAlike = textLine.textLength() == line->length && textLine.horizontalAdvance() == line->advance
+                isAlike = textLine.textLength() == line->length
+                    && textLine.horizontalAdvance() == line->advance
                     && textLine.naturalTextWidth() == line->extent;
             }
             paragraph->layout.endLayout();
@@ -457,14 +457,15 @@ private:
         const qreal start = isStretched ? 0 : lineStart(line, room, isRightToLeft);
         const QTextLine textLine = line.textLine();
         if (line.advance > 0) {
-            setOption(*line.paragraph, QTextOption::ManualWrap, isStretched ? Qt::AlignJustify : Qt::AlignLeft);
+            setOption(
+                *line.paragraph, QTextOption::ManualWrap, isStretched ? Qt::AlignJustify : Qt::AlignLeft);
             picture.add({start + (isRightToLeft ? room : 0), 0}, textLine.glyphRuns());
         }
         if (!ellipsis || room > width)
             return;
         const qreal end = isStretched ? width - room : start + line.advance;
         picture.add({isRightToLeft ? start : end, textLine.y() + textLine.ascent() - ellipsis->ascent},
-                    ellipsis->runs);
+            ellipsis->runs);
     }
 
     qreal lineStart(const Line &line, qreal room, bool isRightToLeft) const
@@ -597,7 +598,7 @@ void TextRenderer::relayout()
 QSize TextRenderer::boundingSize(const QMargins &margins) const
 {
     return {saturated(qint64(m_size.width()) + margins.left() + margins.right()),
-            saturated(qint64(m_size.height()) + margins.top() + margins.bottom())};
+        saturated(qint64(m_size.height()) + margins.top() + margins.bottom())};
 }
 
 void TextRenderer::draw(QPainter &painter) const

@@ -123,10 +123,10 @@ QSize referenceSize(const QString &paragraph, const QFont &font, int width)
 
 QString randomText(QRandomGenerator &random, int maximumSize)
 {
-    static const QStringList pieces {
-        u"a"_s, u"fi"_s, u"W"_s, u"j"_s, u"слово"_s, u"длинноеслово"_s, u" "_s, u"  "_s, u"-"_s, u"word"_s, u", "_s,
-        u"e\u0301"_s, u"שלום"_s, u"مرحبا"_s, u"漢字"_s, u"🙂"_s, u"👩‍👩‍👧"_s, u"сло\u00adво"_s, u"\u00ad"_s, u"\u00a0"_s, u"\t"_s,
-        u"\u200b"_s, u"\u200f"_s, u"123"_s, u"<b>"_s, u"\n"_s, u"\r\n"_s, u"\u2028"_s, u"…"_s, QString(QChar(0)),
+    static const QStringList pieces{u"a"_s, u"fi"_s, u"W"_s, u"j"_s, u"слово"_s, u"длинноеслово"_s, u" "_s,
+        u"  "_s, u"-"_s, u"word"_s, u", "_s, u"e\u0301"_s, u"שלום"_s, u"مرحبا"_s, u"漢字"_s, u"🙂"_s,
+        u"👩‍👩‍👧"_s, u"сло\u00adво"_s, u"\u00ad"_s, u"\u00a0"_s, u"\t"_s, u"\u200b"_s,
+        u"\u200f"_s, u"123"_s, u"<b>"_s, u"\n"_s, u"\r\n"_s, u"\u2028"_s, u"…"_s, QString(QChar(0)),
         QString(QChar(0xd83d)), QString(QChar(0xde00))};
     QString text;
     const int size = random.bounded(1, maximumSize);
@@ -138,10 +138,10 @@ QString randomText(QRandomGenerator &random, int maximumSize)
 QByteArray describe(const Label &label)
 {
     const QSize size = sizeOf(label);
-    return QByteArray::number(size.width()) + " x " + QByteArray::number(size.height()) + ", text " + label.text.toUtf8().toHex() + " width " + QByteArray::number(label.width)
-        + " lines " + QByteArray::number(label.maxLines) + " pixel size "
-        + QByteArray::number(label.font.pixelSize()) + (label.font.italic() ? " italic" : "")
-        + (label.font.bold() ? " bold" : "");
+    return QByteArray::number(size.width()) + " x " + QByteArray::number(size.height()) + ", text "
+        + label.text.toUtf8().toHex() + " width " + QByteArray::number(label.width) + " lines "
+        + QByteArray::number(label.maxLines) + " pixel size " + QByteArray::number(label.font.pixelSize())
+        + (label.font.italic() ? " italic" : "") + (label.font.bold() ? " bold" : "");
 }
 
 } // namespace
@@ -273,7 +273,7 @@ private Q_SLOTS:
     void breaksBetweenWords()
     {
         const int width = sizeOf({u"Хорошее кино"_s}).width();
-        const Label label {u"Хорошее кино каждый день"_s, width};
+        const Label label{u"Хорошее кино каждый день"_s, width};
         QCOMPARE(linesOf(label), 2);
         const QSize size = sizeOf(label);
         QImage expected(size, QImage::Format_RGB32);
@@ -291,16 +291,17 @@ private Q_SLOTS:
     {
         const QString word(40, u'ж');
         const int letter = sizeOf({u"ж"_s}).width();
-        const Label label {u"a "_s + word, letter * 10};
+        const Label label{u"a "_s + word, letter * 10};
         QVERIFY(linesOf(label) > 4);
         QVERIFY(sizeOf(label).width() <= letter * 10);
         // The word starts a line of its own before it is broken.
-        QCOMPARE(pictureOf(label, {letter * 10, lineHeight()}), pictureOf({u"a"_s}, {letter * 10, lineHeight()}));
+        QCOMPARE(
+            pictureOf(label, {letter * 10, lineHeight()}), pictureOf({u"a"_s}, {letter * 10, lineHeight()}));
     }
 
     void letterWiderThanTheLineKeepsTheWidth()
     {
-        const Label label {u"WiiW"_s, 3};
+        const Label label{u"WiiW"_s, 3};
         QCOMPARE(linesOf(label), 4);
         QCOMPARE(sizeOf(label).width(), 3);
     }
@@ -319,7 +320,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(int, maxLines);
         for (int width = 60; width < 200; ++width) {
-            const Label label {text, width, maxLines};
+            const Label label{text, width, maxLines};
             QCOMPARE(sizeOf(label), QSize(width, maxLines * lineHeight()));
             const QRect lastLine(0, (maxLines - 1) * lineHeight(), width, lineHeight());
             const QImage shown = pictureOf(label, sizeOf(label)).copy(lastLine);
@@ -333,7 +334,8 @@ private Q_SLOTS:
                     isFound = pictureOf({candidate}, lastLine.size()) == shown;
                 }
             }
-            QVERIFY2(isFound, qPrintable(u"no beginning of the text with … looks so at width %1"_s.arg(width)));
+            QVERIFY2(
+                isFound, qPrintable(u"no beginning of the text with … looks so at width %1"_s.arg(width)));
         }
     }
 
@@ -344,7 +346,8 @@ private Q_SLOTS:
         const qreal ellipsis = QFontMetricsF(testFont()).horizontalAdvance(u'…');
         const int width = 300;
         const int letters = int((width - ellipsis) / letter);
-        QCOMPARE(pictureOf({text, width, 1}, {width, 30}), pictureOf({text.left(letters) + u'…'}, {width, 30}));
+        QCOMPARE(
+            pictureOf({text, width, 1}, {width, 30}), pictureOf({text.left(letters) + u'…'}, {width, 30}));
     }
 
     void textThatEndsWithTheLastLineIsNotCut()
@@ -367,10 +370,10 @@ private Q_SLOTS:
     void narrowerThanEllipsisShowsNothing()
     {
         const int ellipsis = sizeOf({u"…"_s}).width();
-        const Label narrow {u"Title"_s, ellipsis - 3, 1};
+        const Label narrow{u"Title"_s, ellipsis - 3, 1};
         QCOMPARE(sizeOf(narrow), QSize(ellipsis - 3, lineHeight()));
         QVERIFY(inkOf(narrow, {100, 30}).isNull());
-        const Label barely {u"Title"_s, ellipsis, 1};
+        const Label barely{u"Title"_s, ellipsis, 1};
         QCOMPARE(pictureOf(barely, {100, 30}), pictureOf({u"…"_s}, {100, 30}));
     }
 
@@ -380,8 +383,8 @@ private Q_SLOTS:
         qInfo("seed %u", seed);
         QRandomGenerator random(seed);
         for (int i = 0; i < 3000; ++i) {
-            Label label {randomText(random, 24), random.bounded(-5, 300), random.bounded(0, 5),
-                         Qt::AlignLeft | Qt::AlignAbsolute};
+            Label label{randomText(random, 24), random.bounded(-5, 300), random.bounded(0, 5),
+                Qt::AlignLeft | Qt::AlignAbsolute};
             label.font = testFont(random.bounded(9, 31));
             label.font.setItalic(random.bounded(2));
             label.font.setBold(random.bounded(2));
@@ -405,9 +408,10 @@ private Q_SLOTS:
         const auto seed = QRandomGenerator::global()->generate();
         qInfo("seed %u", seed);
         QRandomGenerator random(seed);
-        const QList<Qt::Alignment> alignments {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter, Qt::AlignJustify};
+        const QList<Qt::Alignment> alignments{
+            Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter, Qt::AlignJustify};
         for (int i = 0; i < 300; ++i) {
-            Label label {randomText(random, 40)};
+            Label label{randomText(random, 40)};
             TextRenderer renderer = laidOut(label);
             for (int step = 0; step < 6; ++step) {
                 label.width = random.bounded(-5, 500);
@@ -439,8 +443,9 @@ private Q_SLOTS:
             const QSize size = sizeOf({text, width});
             // Wider by what the engine needs to give these lines again.
             QVERIFY2(size.height() == reference.height() && size.width() >= reference.width()
-                         && size.width() <= qMin(width, reference.width() + 64),
-                     describe({text, width}) + " expected " + QByteArray::number(reference.width()) + ' ' + QByteArray::number(reference.height()));
+                    && size.width() <= qMin(width, reference.width() + 64),
+                describe({text, width}) + " expected " + QByteArray::number(reference.width()) + ' '
+                    + QByteArray::number(reference.height()));
             // All lines before the cut one are those of the whole text.
             const int lines = random.bounded(1, 8);
             const QSize head = sizeOf({text, width, lines});
@@ -453,7 +458,8 @@ private Q_SLOTS:
         for (const QString &part : {u"слово "_s, u"слово"_s, u"字"_s, u"مرحبا "_s, u"🙂"_s}) {
             const QString text = repeated(part, 100000);
             for (const int lines : {1, 2, 7}) {
-                QCOMPARE(pictureOf({text, 700, lines}, {700, 200}), pictureOf({text.left(5000), 700, lines}, {700, 200}));
+                QCOMPARE(pictureOf({text, 700, lines}, {700, 200}),
+                    pictureOf({text.left(5000), 700, lines}, {700, 200}));
             }
         }
     }
@@ -477,7 +483,8 @@ private Q_SLOTS:
         QTest::newRow("centre, right-to-left") << int(Qt::AlignHCenter) << rtl << 0.5;
         QTest::newRow("justify, right-to-left") << int(Qt::AlignJustify) << rtl << 1.0;
         QTest::newRow("absolute left, right-to-left") << int(Qt::AlignLeft | Qt::AlignAbsolute) << rtl << 0.0;
-        QTest::newRow("absolute right, right-to-left") << int(Qt::AlignRight | Qt::AlignAbsolute) << rtl << 1.0;
+        QTest::newRow("absolute right, right-to-left")
+            << int(Qt::AlignRight | Qt::AlignAbsolute) << rtl << 1.0;
     }
     void horizontalAlignment()
     {
@@ -486,7 +493,7 @@ private Q_SLOTS:
         QFETCH(double, place);
         const QRect natural = inkOf({text}, {400, 30});
         const int room = 400 - sizeOf({text}).width();
-        Label label {text, 400, unlimited, Qt::Alignment(alignment)};
+        Label label{text, 400, unlimited, Qt::Alignment(alignment)};
         const QRect ink = inkOf(label, {400, 30});
         QCOMPARE(ink.width(), natural.width());
         QVERIFY(qAbs(ink.left() - natural.left() - room * place) <= 1);
@@ -501,7 +508,7 @@ private Q_SLOTS:
 
     void eachParagraphHasItsDirection()
     {
-        const Label label {u"нн\nשלום"_s, 400};
+        const Label label{u"нн\nשלום"_s, 400};
         const QImage picture = pictureOf(label, {400, 2 * lineHeight()});
         QVERIFY(inkOf(picture.copy(0, 0, 400, lineHeight())).right() < 100);
         QVERIFY(inkOf(picture.copy(0, lineHeight(), 400, lineHeight())).left() > 300);
@@ -523,7 +530,7 @@ private Q_SLOTS:
 
     void justifyStretchesAllButTheLastLine()
     {
-        const Label label {u"Хорошее кино каждый день и на любой вкус"_s, 220, unlimited, Qt::AlignJustify};
+        const Label label{u"Хорошее кино каждый день и на любой вкус"_s, 220, unlimited, Qt::AlignJustify};
         const QSize size = sizeOf(label);
         QCOMPARE(size.width(), 220);
         const int lines = size.height() / lineHeight();
@@ -550,7 +557,8 @@ private Q_SLOTS:
     {
         for (const QString &part : {u"слово и дело "_s, u"שלום עולם "_s}) {
             for (int width = 100; width < 200; width += 7) {
-                const QImage picture = pictureOf({repeated(part, 200), width, 2, Qt::AlignJustify}, {400, 60});
+                const QImage picture =
+                    pictureOf({repeated(part, 200), width, 2, Qt::AlignJustify}, {400, 60});
                 QVERIFY(inkOf(picture).right() <= width);
             }
         }
@@ -573,7 +581,7 @@ private Q_SLOTS:
         QFETCH(int, alignment);
         QFETCH(double, place);
         const QRect natural = inkOf({u"н"_s}, {50, 50});
-        Label label {u"н"_s, unlimited, unlimited, Qt::Alignment(alignment), 101};
+        Label label{u"н"_s, unlimited, unlimited, Qt::Alignment(alignment), 101};
         const auto shift = [&](int height) { return int((height - lineHeight()) * place); };
         QCOMPARE(inkOf(label, {50, 300}).top(), natural.top() + shift(101));
         // Never above the area, however low it is.
@@ -649,7 +657,7 @@ private Q_SLOTS:
         QCOMPARE(renderer.boundingSize({}), sizeOf({u"Один"_s}));
         renderer.setTextFont(testFont(40));
         renderer.relayout();
-        Label large {u"Один"_s};
+        Label large{u"Один"_s};
         large.font = testFont(40);
         QCOMPARE(renderer.boundingSize({}), sizeOf(large));
     }
@@ -692,7 +700,7 @@ private Q_SLOTS:
     void oddFonts()
     {
         QFont font = testFont(10000);
-        Label label {u"Hello"_s, unlimited, 1, Qt::AlignCenter};
+        Label label{u"Hello"_s, unlimited, 1, Qt::AlignCenter};
         label.font = font;
         QVERIFY(sizeOf(label).height() > 5000);
         pictureOf(label, {300, 300});

@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kelui.Gallery
+import Kelui.UI.Qml.Controls.Generic as Generic
+
+/*! The window: the menu, the page behind its current line, and the one place where keys arrive. */
+Window {
+    id: _window
+
+    /*! Whether changes of state are animated. */
+    property bool isAnimated: true
+
+    property int currentIndex: -1
+    property bool isInMenu: true
+    readonly property GalleryPage currentPage: _loader.item as GalleryPage
+
+    readonly property list<PageEntry> pages: [
+        PageEntry {
+            title: "Text"
+            icon: "text"
+
+            TextPage {}
+        },
+        PageEntry {
+            title: "Button"
+            icon: "button"
+
+            ButtonPage {}
+        },
+        PageEntry {
+            title: "Icon"
+            icon: "icons"
+
+            IconPage {}
+        },
+        PageEntry {
+            title: "ImageColorizer"
+            icon: "palette"
+
+            ImageColorizerPage {}
+        },
+        PageEntry {
+            title: "Images"
+            icon: "picture"
+
+            ImagePage {}
+        },
+        PageEntry {
+            title: "Rectangle"
+            icon: "box"
+
+            RectanglePage {}
+        },
+        PageEntry {
+            title: "Vocabulary"
+            icon: "book"
+
+            VocabularyPage {}
+        }
+    ]
+
+    width: 1280
+    height: 720
+    color: Theme.background
+    title: "Kelui"
+
+    Component.onCompleted: Theme.isAnimated = isAnimated
+
+    /*! Opens a page afresh; focus stays in the menu. */
+    function openPage(index: int) {
+        isInMenu = true;
+        currentIndex = -1;
+        currentIndex = index;
+    }
+
+    /*! The number of a page by its title in any case, or by its digit; -1 for none. */
+    function pageIndex(name: string): int {
+        for (let i = 0; i < pages.length; ++i) {
+            if (pages[i].title.toLowerCase() === name.toLowerCase() || String(i + 1) === name)
+                return i;
+        }
+        return -1;
+    }
+
+    function pageTitles(): list<string> {
+        const titles = [];
+        for (const entry of pages)
+            titles.push(entry.title);
+        return titles;
+    }
+
+    function shotNames(): list<string> {
+        const names = [];
+        for (const shot of currentPage.shots)
+            names.push(shot.name);
+        return names;
+    }
+
+    function takeShot(index: int) {
+        currentPage.shots[index].taken();
+        isInMenu = currentPage.focusedStop === null;
+    }
+
+    function enterPage(): bool {
+        if (!currentPage || !currentPage.focusFirst())
+            return false;
+        isInMenu = false;
+        return true;
+    }
+
+    function leavePage() {
+        currentPage.focusedStop = null;
+        isInMenu = true;
+    }
+
+    function handleMenuKey(key: int): bool {
+        switch (key) {
+        case Qt.Key_Up:
+            currentIndex = Math.max(0, currentIndex - 1);
+            return true;
+        case Qt.Key_Down:
+            currentIndex = Math.min(pages.length - 1, currentIndex + 1);
+            return true;
+        case Qt.Key_Right:
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Select:
+            enterPage();
+            return true;
+        case Qt.Key_Escape:
+        case Qt.Key_Backspace:
+        case Qt.Key_Back:
+            Qt.quit();
+            return true;
+        }
+        return handleDigit(key);
+    }
+
+    function handlePageKey(key: int, text: string): bool {
+        if (currentPage.handleKey(key, text))
+            return true;
+        switch (key) {
+        case Qt.Key_Left:
+        case Qt.Key_Escape:
+        case Qt.Key_Backspace:
+        case Qt.Key_Back:
+            leavePage();
+            return true;
+        }
+        return handleDigit(key);
+    }
+
+    function handleDigit(key: int): bool {
+        const index = key - Qt.Key_1;
+        if (index < 0 || index > 8 || index >= pages.length)
+            return false;
+        openPage(index);
+        return true;
+    }
+
+    Item {
+        id: _scene
+
+        readonly property int menuX: 64
+        readonly property int pageX: 376
+
+        width: 1280
+        height: 720
+        x: (_window.width - width * scale) / 2
+        y: (_window.height - height * scale) / 2
+        transformOrigin: Item.TopLeft
+        scale: Math.min(_window.width / width, _window.height / height)
+        focus: true
+
+        Keys.onPressed: event => {
+            event.accepted = _window.isInMenu ? _window.handleMenuKey(event.key)
+                                              : _window.handlePageKey(event.key, event.text);
+        }
+
+        Generic.Rectangle {
+            width: 336
+            height: parent.height
+            color: Theme.panel
+        }
+
+        Generic.Rectangle {
+            x: _scene.menuX
+            y: 48
+            width: 10
+            height: 34
+            color: Theme.accent
+        }
+
+        Label {
+            x: _scene.menuX + 24
+            y: 40
+            font: Theme.display
+            text: "Kelui"
+        }
+
+        Caption {
+            x: _scene.menuX
+            y: 96
+            text: "Generic " + Generic.PluginInfo.majorVersion + "." + Generic.PluginInfo.minorVersion
+        }
+
+        Item {
+            id: _menu
+
+            readonly property int step: 60
+            readonly property int firstVisible: Math.max(0, Math.min(_window.currentIndex - 6, _window.pages.length - 8))
+
+            x: _scene.menuX
+            y: 148
+            width: 248
+            height: step * 8
+            clip: true
+
+            Column {
+                y: -_menu.firstVisible * _menu.step
+                spacing: 4
+
+                Repeater {
+                    model: _window.pages
+
+                    MenuButton {
+                        id: _line
+
+                        required property int index
+                        required property PageEntry modelData
+                        readonly property bool isCurrent: index === _window.currentIndex
+
+                        titleText: modelData.title
+                        leftIconSource: Theme.icon(modelData.icon)
+                        focused: isCurrent && _window.isInMenu
+                        checked: isCurrent && !_window.isInMenu
+                    }
+                }
+            }
+        }
+
+        Label {
+            x: _scene.pageX
+            y: 34
+            width: 840
+            maximumLineCount: 1
+            font: Theme.display
+            text: _window.currentIndex >= 0 ? _window.pages[_window.currentIndex].title : ""
+        }
+
+        Caption {
+            x: _scene.pageX
+            y: 86
+            text: _window.currentPage?.caption ?? ""
+        }
+
+        Caption {
+            x: _scene.pageX
+            y: 110
+            color: Theme.disabledText
+            text: _window.currentPage?.captionRussian ?? ""
+        }
+
+        Loader {
+            id: _loader
+
+            x: _scene.pageX
+            y: 152
+            width: 840
+            height: 484
+            sourceComponent: _window.currentIndex >= 0 ? _window.pages[_window.currentIndex].page : null
+
+            // Why is on the console already; a window without its page would be no help.
+            onStatusChanged: {
+                if (status === Loader.Error)
+                    Qt.exit(1);
+            }
+        }
+
+        Row {
+            id: _hints
+
+            x: _scene.pageX
+            y: 656
+            spacing: 10
+
+            Hint {
+                key: "← ↑ ↓ →"
+                meaning: "move · ход"
+            }
+            Hint {
+                key: "OK"
+                meaning: _window.isInMenu ? "open · открыть" : "press · нажать"
+            }
+            Hint {
+                key: "Back"
+                meaning: _window.isInMenu ? "quit · выход" : "menu · меню"
+            }
+            Hint {
+                key: "1–" + Math.min(9, _window.pages.length)
+                meaning: "page · раздел"
+            }
+        }
+    }
+}

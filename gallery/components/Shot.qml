@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+import QtQml
+
+/*! One state of a page worth a picture. The page is fresh from loading when `taken` is emitted. */
+QtObject {
+    id: _shot
+
+    /*! The component and its state, such as "Button-checked"; also the name of the file. */
+    required property string name
+
+    /*! Puts the page into the state. */
+    signal taken
+}

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+#include <QtCore/QSysInfo>
+#include <QtGui/QImage>
+#include <QtTest/QTest>
+
+namespace {
+
+// Qt scales pictures by different code on different processors; this much, nobody sees.
+constexpr int tolerance = 2;
+
+struct Outcome
+{
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+Outcome runGallery(const QStringList &arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("QML_IMPORT_PATH"));
+    environment.remove(QStringLiteral("QML2_IMPORT_PATH"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(KELUI_GALLERY), arguments);
+    if (!process.waitForFinished(90'000) || process.exitStatus() != QProcess::NormalExit)
+        return {.exitCode = -1, .output = {}, .errors = process.errorString()};
+    return {.exitCode = process.exitCode(),
+        .output = QString::fromUtf8(process.readAllStandardOutput()),
+        .errors = QString::fromUtf8(process.readAllStandardError())};
+}
+
+//! Why the references do not hold here, empty where they do: they show one rasteriser and one set of fonts.
+QString whyNotComparable()
+{
+    const QString made = QStringLiteral("the references are made with Qt 6.8.2 on Debian 13; here is ");
+    if (QLatin1String(qVersion()) != QLatin1String("6.8.2"))
+        return made + QStringLiteral("Qt ") + QLatin1String(qVersion());
+    if (QSysInfo::productType() != QLatin1String("debian")
+        || QSysInfo::productVersion() != QLatin1String("13"))
+        return made + QSysInfo::prettyProductName();
+    return {};
+}
+
+QStringList names(const QDir &folder)
+{
+    QStringList result;
+    const QStringList files = folder.entryList({QStringLiteral("*.png")}, QDir::Files);
+    for (const QString &file : files)
+        result += file.chopped(4);
+    return result;
+}
+
+//! The largest difference of a channel at a pixel.
+int distance(QRgb left, QRgb right)
+{
+    return std::max({std::abs(qRed(left) - qRed(right)), std::abs(qGreen(left) - qGreen(right)),
+        std::abs(qBlue(left) - qBlue(right))});
+}
+
+//! Marks what differs in red on a faint copy; the number of such pixels is in count.
+QImage difference(const QImage &actual, const QImage &expected, int &count)
+{
+    count = 0;
+    QImage result(actual.size().expandedTo(expected.size()), QImage::Format_RGB32);
+    for (int y = 0; y < result.height(); ++y) {
+        for (int x = 0; x < result.width(); ++x) {
+            const bool isCommon = actual.valid(x, y) && expected.valid(x, y);
+            if (isCommon && distance(actual.pixel(x, y), expected.pixel(x, y)) <= tolerance) {
+                const int gray = 160 + qGray(expected.pixel(x, y)) / 3;
+                result.setPixel(x, y, qRgb(gray, gray, gray));
+            } else {
+                ++count;
+                result.setPixel(x, y, qRgb(220, 0, 0));
+            }
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+//! Compares the gallery's pictures of itself with those in references/, and tests how it fails.
+class tst_Visual : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void takesPicturesWithoutComplaint();
+    void matchesReference_data();
+    void matchesReference();
+    void tellsThatTheModuleIsMissing_data();
+    void tellsThatTheModuleIsMissing();
+    void refusesWhatItCannotDo_data();
+    void refusesWhatItCannotDo();
+
+private:
+    void accept() const;
+
+    QDir m_output{QStringLiteral(KELUI_OUTPUT)};
+    QDir m_shots{QStringLiteral(KELUI_OUTPUT "/shots")};
+    QDir m_references{QStringLiteral(KELUI_REFERENCES)};
+    Outcome m_outcome;
+};
+
+void tst_Visual::initTestCase()
+{
+    m_shots.removeRecursively();
+    const QStringList old = names(m_output);
+    for (const QString &name : old)
+        m_output.remove(name + QStringLiteral(".png"));
+    m_outcome = runGallery(
+        {QStringLiteral("--shots"), m_shots.path(), QStringLiteral("--size"), QStringLiteral("1280x720")});
+    QVERIFY2(m_outcome.exitCode == 0, qPrintable(m_outcome.errors));
+    if (qEnvironmentVariableIntValue("KELUI_ACCEPT") == 1 && whyNotComparable().isEmpty())
+        accept();
+}
+
+void tst_Visual::accept() const
+{
+    const QStringList old = names(m_references);
+    for (const QString &name : old)
+        QFile::remove(m_references.filePath(name + QStringLiteral(".png")));
+    const QStringList current = names(m_shots);
+    for (const QString &name : current) {
+        const QString file = name + QStringLiteral(".png");
+        QVERIFY2(QFile::copy(m_shots.filePath(file), m_references.filePath(file)), qPrintable(file));
+    }
+}
+
+void tst_Visual::takesPicturesWithoutComplaint()
+{
+    QCOMPARE(m_outcome.errors, QString());
+    // Each path is told once: two states of one name would overwrite each other.
+    QStringList told = m_outcome.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    told.sort();
+    QStringList made;
+    const QStringList current = names(m_shots);
+    for (const QString &name : current)
+        made += m_shots.filePath(name + QStringLiteral(".png"));
+    made.sort();
+    QVERIFY(!made.isEmpty());
+    QCOMPARE(told, made);
+}
+
+void tst_Visual::matchesReference_data()
+{
+    const QString reason = whyNotComparable();
+    if (!reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTest::addColumn<QString>("name");
+    QStringList all = names(m_shots) + names(m_references);
+    all.removeDuplicates();
+    for (const QString &name : std::as_const(all))
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void tst_Visual::matchesReference()
+{
+    QFETCH(const QString, name);
+    const QString file = name + QStringLiteral(".png");
+    const QString shot = m_shots.filePath(file);
+    const QString reference = m_references.filePath(file);
+    QVERIFY2(QFile::exists(reference),
+        qPrintable(
+            QStringLiteral("%1 has no reference %2; ./run test --accept makes it").arg(shot, reference)));
+    QVERIFY2(QFile::exists(shot),
+        qPrintable(QStringLiteral("the gallery does not make the picture of %1").arg(reference)));
+    const QImage actual(shot);
+    const QImage expected(reference);
+    QVERIFY(!actual.isNull());
+    QVERIFY(!expected.isNull());
+
+    int count = 0;
+    const QImage marked = difference(actual, expected, count);
+    if (count == 0)
+        return;
+    const QString prefix = m_output.filePath(name);
+    const QString actualPath = prefix + QStringLiteral("-actual.png");
+    const QString expectedPath = prefix + QStringLiteral("-expected.png");
+    const QString differencePath = prefix + QStringLiteral("-difference.png");
+    QVERIFY(actual.save(actualPath) && expected.save(expectedPath) && marked.save(differencePath));
+    QFAIL(qPrintable(QStringLiteral("%1 pixels differ; see\n  %2\n  %3\n  %4")
+            .arg(count)
+            .arg(actualPath, expectedPath, differencePath)));
+}
+
+void tst_Visual::tellsThatTheModuleIsMissing_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("pictures") << QStringList{
+        QStringLiteral("--shots"), m_output.filePath(QStringLiteral("none"))};
+    QTest::newRow("window") << QStringList();
+}
+
+void tst_Visual::tellsThatTheModuleIsMissing()
+{
+    QFETCH(QStringList, arguments);
+    const QString empty = m_output.filePath(QStringLiteral("empty"));
+    QVERIFY(QDir().mkpath(empty));
+    const Outcome outcome = runGallery(arguments << QStringLiteral("--import") << empty);
+    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.output, QString());
+    QVERIFY2(outcome.errors.contains(QStringLiteral("module Kelui.UI.Qml.Controls.Generic is missing")),
+        qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains(empty), qPrintable(outcome.errors));
+}
+
+void tst_Visual::refusesWhatItCannotDo_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("page") << QStringList{QStringLiteral("--page"), QStringLiteral("Nowhere")}
+                          << QStringLiteral("Nowhere");
+    QTest::newRow("size") << QStringList{QStringLiteral("--size"), QStringLiteral("wide")}
+                          << QStringLiteral("wide");
+    QTest::newRow("folder") << QStringList{QStringLiteral("--shots"), QStringLiteral("/proc/none")}
+                            << QStringLiteral("/proc/none");
+}
+
+void tst_Visual::refusesWhatItCannotDo()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, named);
+    const Outcome outcome = runGallery(arguments);
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY2(outcome.errors.contains(named), qPrintable(outcome.errors));
+}
+
+QTEST_GUILESS_MAIN(tst_Visual)
+
+#include "tst_visual.moc"
