@@ -11,9 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray ourLabel = "K.Text { width: 400; font.pixelSize: 28 }";
+const QByteArray ourLabel = "K.Text { width: 500; font.pixelSize: 28 }";
 const QByteArray theirLabel
-    = "Text { width: 400; font.pixelSize: 28; elide: Text.ElideRight; textFormat: Text.PlainText }";
+    = "Text { width: 500; font.pixelSize: 28; elide: Text.ElideRight; textFormat: Text.PlainText }";
 
 QString longText(qsizetype size)
 {

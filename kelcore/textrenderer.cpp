@@ -127,6 +127,8 @@ struct Paragraph
     bool isWhole = false;
     //! What follows is more lines of the same paragraph.
     bool isSplit = false;
+    //! The layout is never ended while its glyphs are good, as that would throw them away.
+    enum class Glyphs { None, Shaped, Spoiled } glyphs = Glyphs::None;
     QTextLayout layout;
 
     Paragraph(const QString &text, const QFont &font, qsizetype from, Qt::LayoutDirection direction)
@@ -134,7 +136,6 @@ struct Paragraph
         , direction(direction)
     {
         layout.setFont(font);
-        layout.setCacheEnabled(true);
         extend(text, firstChunk);
     }
 
@@ -157,6 +158,21 @@ struct Paragraph
         }
         // The width of a tab would depend on where it stands.
         layout.setText(text.mid(begin, size()).replace(u'\t', u' '));
+        glyphs = Glyphs::None;
+    }
+
+    //! Begins the lines anew, without shaping the text again where that can be.
+    void clearLines()
+    {
+        if (glyphs == Glyphs::Shaped) {
+            layout.clearLayout();
+        } else {
+            if (glyphs == Glyphs::Spoiled)
+                layout.endLayout();
+            layout.beginLayout();
+        }
+        // A line that ends in a soft hyphen changes its glyph for good.
+        glyphs = layout.text().contains(QChar::SoftHyphen) ? Glyphs::Spoiled : Glyphs::Shaped;
     }
 
     bool isRightToLeft() const
@@ -307,9 +323,8 @@ private:
         const int top = height;
         while (true) {
             setOption(paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
-            paragraph.layout.beginLayout();
+            paragraph.clearLines();
             const Progress progress = addLines(paragraph);
-            paragraph.layout.endLayout();
             if (progress != Progress::NeedsMoreText)
                 return progress == Progress::Full;
             if (paragraph.size() >= fullChunk && split(paragraph, firstLine))
@@ -426,7 +441,7 @@ private:
             Paragraph *paragraph = line->paragraph;
             bool isAlike = true;
             setOption(*paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
-            paragraph->layout.beginLayout();
+            paragraph->clearLines();
             for (; isAlike && line != lines.cend() && line->paragraph == paragraph; ++line) {
                 QTextLine textLine = paragraph->layout.createLine();
                 if (cut && &*line == &lines.back())
@@ -437,7 +452,6 @@ private:
                     && textLine.horizontalAdvance() == line->advance
                     && textLine.naturalTextWidth() == line->extent;
             }
-            paragraph->layout.endLayout();
             if (!isAlike)
                 return false;
         }
@@ -457,9 +471,12 @@ private:
         const qreal start = isStretched ? 0 : lineStart(line, room, isRightToLeft);
         const QTextLine textLine = line.textLine();
         if (line.advance > 0) {
-            setOption(
-                *line.paragraph, QTextOption::ManualWrap, isStretched ? Qt::AlignJustify : Qt::AlignLeft);
+            const auto lineAlignment = isStretched ? Qt::AlignJustify : Qt::AlignLeft;
+            setOption(*line.paragraph, QTextOption::ManualWrap, lineAlignment);
             picture.add({start + (isRightToLeft ? room : 0), 0}, textLine.glyphRuns());
+            // Stretching changes the glyphs for good.
+            if (isStretched)
+                line.paragraph->glyphs = Paragraph::Glyphs::Spoiled;
         }
         if (!ellipsis || room > width)
             return;
