@@ -59,7 +59,7 @@ void Table::print() const
     for (const Row &row : m_rows) {
         const char *verdict = row.goal > 0 && row.ratio > row.goal ? "  missed" : "";
         std::printf("%-58s %9.2f %-2s %9.2f %-2s %8.4f %8.4g%s\n", qPrintable(row.name), row.ours,
-                    qPrintable(row.unit), row.theirs, qPrintable(row.unit), row.ratio, row.goal, verdict);
+            qPrintable(row.unit), row.theirs, qPrintable(row.unit), row.ratio, row.goal, verdict);
     }
 }
 

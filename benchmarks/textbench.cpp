@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QByteArray ourLabel = "K.Text { width: 500; font.pixelSize: 28 }";
-const QByteArray theirLabel
-    = "Text { width: 500; font.pixelSize: 28; elide: Text.ElideRight; textFormat: Text.PlainText }";
+const QByteArray theirLabel =
+    "Text { width: 500; font.pixelSize: 28; elide: Text.ElideRight; textFormat: Text.PlainText }";
 
 QString longText(qsizetype size)
 {
@@ -26,7 +26,7 @@ class Alternating
 {
 public:
     Alternating(const QString &first, const QString &second)
-        : m_texts {first, second}
+        : m_texts{first, second}
     {
     }
 
@@ -124,8 +124,9 @@ void measureLong(Table &table, int lines)
     table.add(timed(
         name + u", against Text"_s, 0.001, [&] { ourText.write(ourTexts.next()); },
         [&] { theirText.write(theirTexts.next()); }, fewRounds));
-    Row growth = timed(name + u", growth exponent from 10 kB"_s, 0.05, [&] { ourText.write(ourTexts.next()); },
-                       [&] { ourText.write(shortTexts.next()); });
+    Row growth = timed(
+        name + u", growth exponent from 10 kB"_s, 0.05, [&] { ourText.write(ourTexts.next()); },
+        [&] { ourText.write(shortTexts.next()); });
     growth.ratio = std::log(growth.ratio) / std::log(double(megabyte) / 10240);
     table.add(growth);
 }
@@ -134,8 +135,8 @@ double heapOfLabels(Scene &scene, const QByteArray &label)
 {
     constexpr int count = 300;
     constexpr double kilobyte = 1024;
-    const QByteArray source = "Item { width: 1280; height: 720; Repeater { model: " + QByteArray::number(count)
-        + "; delegate: " + label + " } }";
+    const QByteArray source = "Item { width: 1280; height: 720; Repeater { model: "
+        + QByteArray::number(count) + "; delegate: " + label + " } }";
     scene.create(source); // Fills the caches that outlive the labels.
     scene.renderFrame();
     const double before = heapInUse();
@@ -149,10 +150,11 @@ void measureHeap(Table &table)
     const QString name = u"text, heap of 300 labels after a frame"_s;
     if (!table.wants(name))
         return;
-    const QByteArray place = "required property int index; x: index % 10 * 128; y: Math.floor(index / 10) * 24; ";
+    const QByteArray place =
+        "required property int index; x: index % 10 * 128; y: Math.floor(index / 10) * 24; ";
     const QByteArray text = "font.pixelSize: 16; text: 'Канал номер ' + index";
     Scene scene;
-    Row row {name, u"kB"_s};
+    Row row{name, u"kB"_s};
     row.ours = heapOfLabels(scene, "K.Text { " + place + text + " }");
     row.theirs = heapOfLabels(scene, "Text { " + place + text + " }");
     row.ratio = row.ours / row.theirs;
