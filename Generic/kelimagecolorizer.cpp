@@ -20,10 +20,11 @@ QImage mapped(const QImage &picture, NewPixel newPixel)
     QImage result(picture.size(), QImage::Format_ARGB32);
     if (result.isNull())
         return result;
+    const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
         const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
         auto *to = reinterpret_cast<QRgb *>(result.scanLine(y));
-        for (int x = 0; x < picture.width(); ++x)
+        for (int x = 0; x < width; ++x)
             to[x] = newPixel(from[x]);
     }
     result.setDevicePixelRatio(picture.devicePixelRatio());

@@ -127,6 +127,8 @@ struct Paragraph
     bool isWhole = false;
     //! What follows is more lines of the same paragraph.
     bool isSplit = false;
+    //! The layout is never ended while its glyphs are good, as that would throw them away.
+    enum class Glyphs { None, Shaped, Spoiled } glyphs = Glyphs::None;
     QTextLayout layout;
 
     Paragraph(const QString &text, const QFont &font, qsizetype from, Qt::LayoutDirection direction)
@@ -134,7 +136,6 @@ struct Paragraph
         , direction(direction)
     {
         layout.setFont(font);
-        layout.setCacheEnabled(true);
         extend(text, firstChunk);
     }
 
@@ -157,6 +158,21 @@ struct Paragraph
         }
         // The width of a tab would depend on where it stands.
         layout.setText(text.mid(begin, size()).replace(u'\t', u' '));
+        glyphs = Glyphs::None;
+    }
+
+    //! Begins the lines anew, without shaping the text again where that can be.
+    void clearLines()
+    {
+        if (glyphs == Glyphs::Shaped) {
+            layout.clearLayout();
+        } else {
+            if (glyphs == Glyphs::Spoiled)
+                layout.endLayout();
+            layout.beginLayout();
+        }
+        // A line that ends in a soft hyphen changes its glyph for good.
+        glyphs = layout.text().contains(QChar::SoftHyphen) ? Glyphs::Spoiled : Glyphs::Shaped;
     }
 
     bool isRightToLeft() const
@@ -208,23 +224,11 @@ struct TextRenderer::Picture
     };
 
     std::vector<Run> runs;
-    int height = 0;
-    int availableHeight = 0;
-    Qt::Alignment alignment;
 
     void add(QPointF position, const QList<QGlyphRun> &glyphs)
     {
         for (const QGlyphRun &run : glyphs)
             runs.push_back({position, run});
-    }
-
-    int top(const QPainter &painter) const
-    {
-        if (!(alignment & (Qt::AlignVCenter | Qt::AlignBottom)))
-            return 0;
-        const bool isKnown = availableHeight > 0 && availableHeight < maximumExtent;
-        const int room = std::max(0, (isKnown ? availableHeight : shownHeight(painter)) - height);
-        return alignment & Qt::AlignVCenter ? room / 2 : room;
     }
 };
 
@@ -240,31 +244,39 @@ struct TextRenderer::Layout
     {
     }
 
-    void fit(int newWidth, int newMaxLines, Qt::Alignment newAlignment)
+    //! Places the lines in another width, which must leave them as they are.
+    void place(const Fit &fit)
     {
-        const bool isKept = !lines.empty() && isNatural && !((alignment | newAlignment) & Qt::AlignJustify)
-            && newWidth >= widestLine && lines.size() <= size_t(newMaxLines);
-        width = newWidth;
-        maxLines = newMaxLines;
-        alignment = newAlignment;
-        if (!isKept)
-            breakText();
+        width = fit.width;
+        alignment = fit.alignment;
     }
 
-    QSize size() const { return {hasLimit() && isFilled ? width : std::min(widestLine, width), height}; }
+    //! Breaks the text into lines. Completes the fit by what came of it.
+    void breakLines(Fit &fit)
+    {
+        place(fit);
+        maxLines = fit.maxLines;
+        breakText();
+        fit.lineCount = lines.size();
+        fit.widestLine = widestLine;
+        fit.height = height;
+        fit.isFilled = hasLimit() && isFilled;
+        fit.isNatural = isNatural;
+        fit.isLeftToRight = std::none_of(
+            lines.cbegin(), lines.cend(), [](const Line &line) { return line.paragraph->isRightToLeft(); });
+    }
 
-    std::shared_ptr<const Picture> picture(int availableHeight) const
+    std::shared_ptr<const Picture> picture() const
     {
         auto result = std::make_shared<Picture>();
-        result->height = height;
-        result->availableHeight = availableHeight;
-        result->alignment = alignment;
         for (const Line &line : lines) {
             const bool isCut = cut && &line == &lines.back();
             addLine(line, isCut ? &*cut : nullptr, *result);
         }
         return result;
     }
+
+    bool isBroken() const { return !lines.empty(); }
 
 private:
     bool hasLimit() const { return width < maximumExtent; }
@@ -307,9 +319,8 @@ private:
         const int top = height;
         while (true) {
             setOption(paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
-            paragraph.layout.beginLayout();
+            paragraph.clearLines();
             const Progress progress = addLines(paragraph);
-            paragraph.layout.endLayout();
             if (progress != Progress::NeedsMoreText)
                 return progress == Progress::Full;
             if (paragraph.size() >= fullChunk && split(paragraph, firstLine))
@@ -426,7 +437,7 @@ private:
             Paragraph *paragraph = line->paragraph;
             bool isAlike = true;
             setOption(*paragraph, QTextOption::WrapAtWordBoundaryOrAnywhere);
-            paragraph->layout.beginLayout();
+            paragraph->clearLines();
             for (; isAlike && line != lines.cend() && line->paragraph == paragraph; ++line) {
                 QTextLine textLine = paragraph->layout.createLine();
                 if (cut && &*line == &lines.back())
@@ -437,7 +448,6 @@ private:
                     && textLine.horizontalAdvance() == line->advance
                     && textLine.naturalTextWidth() == line->extent;
             }
-            paragraph->layout.endLayout();
             if (!isAlike)
                 return false;
         }
@@ -457,9 +467,12 @@ private:
         const qreal start = isStretched ? 0 : lineStart(line, room, isRightToLeft);
         const QTextLine textLine = line.textLine();
         if (line.advance > 0) {
-            setOption(
-                *line.paragraph, QTextOption::ManualWrap, isStretched ? Qt::AlignJustify : Qt::AlignLeft);
+            const auto lineAlignment = isStretched ? Qt::AlignJustify : Qt::AlignLeft;
+            setOption(*line.paragraph, QTextOption::ManualWrap, lineAlignment);
             picture.add({start + (isRightToLeft ? room : 0), 0}, textLine.glyphRuns());
+            // Stretching changes the glyphs for good.
+            if (isStretched)
+                line.paragraph->glyphs = Paragraph::Glyphs::Spoiled;
         }
         if (!ellipsis || room > width)
             return;
@@ -512,6 +525,7 @@ TextRenderer &TextRenderer::operator=(const TextRenderer &other)
     if (this == &other)
         return *this;
     other.makePicture();
+    m_fit = other.m_fit;
     m_text = other.m_text;
     m_font = other.m_font;
     m_alignment = other.m_alignment;
@@ -519,7 +533,6 @@ TextRenderer &TextRenderer::operator=(const TextRenderer &other)
     m_textWidth = other.m_textWidth;
     m_availableHeight = other.m_availableHeight;
     m_isShaped = false;
-    m_size = other.m_size;
     m_layout.reset();
     m_picture = other.m_picture;
     return *this;
@@ -586,19 +599,30 @@ void TextRenderer::setAvailableHeight(int height)
 
 void TextRenderer::relayout()
 {
-    if (!m_isShaped || !m_layout)
-        m_layout = std::make_unique<Layout>(m_text, m_font);
+    Fit fit = m_fit;
+    fit.width = m_textWidth > 0 ? std::min(m_textWidth, maximumExtent) : maximumExtent;
+    fit.maxLines = m_maxLineCount > 0 ? m_maxLineCount : unlimited;
+    fit.alignment = m_alignment;
+    fit.availableHeight = m_availableHeight;
+    const bool isSame = m_isShaped && m_fit.hasSameLines(fit);
+    if (!isSame || !m_fit.hasSamePlaces(fit)) {
+        if (!m_isShaped || !m_layout)
+            m_layout = std::make_unique<Layout>(m_text, m_font);
+        if (isSame && m_layout->isBroken())
+            m_layout->place(fit);
+        else
+            m_layout->breakLines(fit);
+        m_picture.reset();
+    }
     m_isShaped = true;
-    const int width = m_textWidth > 0 ? std::min(m_textWidth, maximumExtent) : maximumExtent;
-    m_layout->fit(width, m_maxLineCount > 0 ? m_maxLineCount : unlimited, m_alignment);
-    m_size = m_layout->size();
-    m_picture.reset();
+    m_fit = fit;
 }
 
 QSize TextRenderer::boundingSize(const QMargins &margins) const
 {
-    return {saturated(qint64(m_size.width()) + margins.left() + margins.right()),
-        saturated(qint64(m_size.height()) + margins.top() + margins.bottom())};
+    const int width = m_fit.isFilled ? m_fit.width : std::min(m_fit.widestLine, m_fit.width);
+    return {saturated(qint64(width) + margins.left() + margins.right()),
+        saturated(qint64(m_fit.height) + margins.top() + margins.bottom())};
 }
 
 void TextRenderer::draw(QPainter &painter) const
@@ -606,15 +630,42 @@ void TextRenderer::draw(QPainter &painter) const
     makePicture();
     if (!m_picture)
         return;
-    const int top = m_picture->top(painter);
+    const int top = m_fit.top(painter);
     for (const Picture::Run &run : m_picture->runs)
         painter.drawGlyphRun(run.position + QPointF(0, top), run.glyphs);
 }
 
 void TextRenderer::makePicture() const
 {
-    if (!m_picture && m_layout)
-        m_picture = m_layout->picture(m_availableHeight);
+    if (m_picture || !m_layout)
+        return;
+    m_picture = m_layout->picture();
+    // What is shown seldom changes its lines afterwards; shaping it again then costs less than keeping it.
+    m_layout.reset();
+}
+
+bool TextRenderer::Fit::hasSameLines(const Fit &other) const
+{
+    return isNatural && lineCount <= size_t(other.maxLines) && widestLine <= other.width
+        && !((alignment | other.alignment) & Qt::AlignJustify);
+}
+
+bool TextRenderer::Fit::hasSamePlaces(const Fit &other) const
+{
+    constexpr auto horizontal = Qt::AlignHorizontal_Mask;
+    constexpr auto moving = Qt::AlignHCenter | Qt::AlignRight;
+    if (isLeftToRight && !((alignment | other.alignment) & moving))
+        return true;
+    return width == other.width && (alignment & horizontal) == (other.alignment & horizontal);
+}
+
+int TextRenderer::Fit::top(const QPainter &painter) const
+{
+    if (!(alignment & (Qt::AlignVCenter | Qt::AlignBottom)))
+        return 0;
+    const bool isKnown = availableHeight > 0 && availableHeight < maximumExtent;
+    const int room = std::max(0, (isKnown ? availableHeight : shownHeight(painter)) - height);
+    return alignment & Qt::AlignVCenter ? room / 2 : room;
 }
 
 } // namespace kelcore

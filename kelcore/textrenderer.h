@@ -101,6 +101,29 @@ private:
     struct Layout;
     struct Picture;
 
+    //! What the last relayout was given, and what came of it.
+    struct Fit
+    {
+        //! Never beyond what a label holds.
+        int width = 0;
+        int maxLines = 0;
+        int availableHeight = 0;
+        Qt::Alignment alignment;
+
+        size_t lineCount = 0;
+        int widestLine = 0;
+        int height = 0;
+        //! The block takes all of the width.
+        bool isFilled = false;
+        //! No line was broken or cut for want of room.
+        bool isNatural = false;
+        bool isLeftToRight = true;
+
+        bool hasSameLines(const Fit &other) const;
+        bool hasSamePlaces(const Fit &other) const;
+        int top(const QPainter &painter) const;
+    };
+
     void makePicture() const;
 
     static constexpr int unlimited = std::numeric_limits<int>::max();
@@ -112,9 +135,10 @@ private:
     int m_textWidth = unlimited;
     int m_availableHeight = 0;
     bool m_isShaped = false;
-    QSize m_size{0, 0};
-    // The shaped text, to break lines again without shaping; absent in copies and before the first relayout.
-    std::unique_ptr<Layout> m_layout;
+    Fit m_fit;
+    // The shaped text, to break lines again; absent in copies, before the first relayout and once it was
+    // drawn.
+    mutable std::unique_ptr<Layout> m_layout;
     // What draw() shows, made from the lines when first asked for.
     mutable std::shared_ptr<const Picture> m_picture;
 };

@@ -392,11 +392,14 @@ private Q_SLOTS:
             const QSize size = renderer.boundingSize({});
             if (label.width > 0)
                 QVERIFY2(size.width() <= label.width, describe(label));
-            const QImage picture = pictureOf(renderer, size.expandedTo({1, 1}));
+            // A width of 0 would mean no limit.
+            if (size.width() == 0)
+                continue;
+            const QImage picture = pictureOf(renderer, size);
             renderer.setTextWidth(size.width());
             renderer.relayout();
             QVERIFY2(renderer.boundingSize({}) == size, describe(label));
-            QVERIFY2(pictureOf(renderer, size.expandedTo({1, 1})) == picture, describe(label));
+            QVERIFY2(pictureOf(renderer, size) == picture, describe(label));
             Label again = label;
             again.width = size.width();
             QVERIFY2(sizeOf(again) == size, describe(label));

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QMetaProperty>
+#include <QtGui/QImage>
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickRenderControl>
+#include <QtQuick/QQuickWindow>
+
+#include <memory>
+
+//! A window that draws into an image with the software renderer, a frame at a time.
+class Scene
+{
+public:
+    explicit Scene(const QSize &size = {1280, 720});
+    ~Scene();
+
+    //! An item from QML source, which sees Qt Quick and the module as K; the scene shows it.
+    std::unique_ptr<QQuickItem> create(const QByteArray &source);
+    void renderFrame();
+
+private:
+    QQmlEngine m_engine;
+    QImage m_image;
+    QQuickRenderControl m_control;
+    QQuickWindow m_window;
+};
+
+//! A property of an object, found once and written often.
+class Property
+{
+public:
+    Property(QObject *object, const char *name);
+
+    void write(const QVariant &value) const;
+    QVariant read() const { return m_property.read(m_object); }
+    void reset() const { m_property.reset(m_object); }
+
+private:
+    QObject *m_object;
+    QMetaProperty m_property;
+};
