@@ -53,15 +53,15 @@ void tst_hello::arrowsMoveTheFocus()
         }
         return buttons;
     };
-    QCOMPARE(focused(), QList<int> {0});
+    QCOMPARE(focused(), QList<int>{0});
     QTest::keyClick(window, Qt::Key_Left);
-    QCOMPARE(focused(), QList<int> {0});
+    QCOMPARE(focused(), QList<int>{0});
     for (const int expected : {1, 2, 2}) {
         QTest::keyClick(window, Qt::Key_Right);
-        QCOMPARE(focused(), QList<int> {expected});
+        QCOMPARE(focused(), QList<int>{expected});
     }
     QTest::keyClick(window, Qt::Key_Left);
-    QCOMPARE(focused(), QList<int> {1});
+    QCOMPARE(focused(), QList<int>{1});
 }
 
 void tst_hello::readmeQuotesIt()

@@ -23,6 +23,9 @@ fake() { # NAME, and its text on the standard input
 fake dpkg-query <<<'echo "ii "'
 fake apt-cache <<<'echo "  Candidate: 6.4.2+dfsg-1"'
 fake apt-get <<<'exit 1'
+fake unshare <<'FAKE'
+exec "${@:2}"
+FAKE
 fake bwrap <<'FAKE'
 printf '%s\n' "$@"
 FAKE
