@@ -126,7 +126,30 @@ expect "a Qt that is new enough is used as it is" grep -q '^FAKE_LOG=' "$place/o
 run Qt6_DIR="$place/qt 6.9.1/lib/cmake/Qt6"
 expect "so is one named by its own variable" grep -q '^FAKE_LOG=' "$place/out"
 
-mkdir -p "$place/checkout/build"
+# The fake root builds nothing, but the script tells it to.
+arguments=(build)
+release=$place/checkout/build/release
+# Both cmake --preset and cmake --build, rather than the second alone.
+configures() {
+    [ "$(grep -cx cmake "$place/err")" = 2 ]
+}
+mkdir -p "$release"
+touch "$release/build.ninja" "$release/old"
+run env
+expect "a build of unknown origin is made anew in a private root" configures
+expect "nothing of it stays" [ ! -e "$release/old" ]
+touch "$release/build.ninja" "$release/old"
+run env
+expect "a build of the same root is kept" [ -e "$release/old" ]
+expect "and not configured again" [ "$(grep -cx cmake "$place/err")" = 1 ]
+sed -i 's/another-package/yet-another-package/' "$place/checkout/run"
+run env
+expect "a build of another root is made anew" configures
+touch "$release/build.ninja" "$release/by-hand"
+rm "$release/made-with"
+run CMAKE_PREFIX_PATH="$place/qt 6.9.1" || true
+expect "a build made by hand with a Qt of the system is kept" [ -e "$release/by-hand" ]
+
 arguments=(clean --all)
 expect "clean --all" run env
 expect "no build is left" [ ! -e "$place/checkout/build" ]
