@@ -20,8 +20,12 @@ fake() { # NAME, and its text on the standard input
     chmod +x "$place/bin/$1"
 }
 # Everything is installed, but no Qt is to be had.
-fake dpkg-query <<<'echo "ii "'
-fake apt-cache <<<'echo "  Candidate: 6.4.2+dfsg-1"'
+fake dpkg-query <<'FAKE'
+[ -n "${FAKE_MISSING:-}" ] || echo "ii "
+FAKE
+fake apt-cache <<'FAKE'
+echo "  Candidate: ${FAKE_CANDIDATE:-6.4.2+dfsg-1}"
+FAKE
 fake apt-get <<<'exit 1'
 fake unshare <<'FAKE'
 exec "${@:2}"
@@ -87,6 +91,12 @@ fi
 shopt -u nullglob
 
 arguments=(shell command)
+missing() { # CANDIDATE PACKAGE…
+    ! run FAKE_MISSING=1 FAKE_CANDIDATE="$1" || return 1
+    grep -q "^run: could not install what it needs; type, as root:  apt-get install ${*:2}" "$place/err"
+}
+expect "what makes a root is named where it cannot be installed" missing 6.4.2 mmdebstrap bubblewrap
+expect "a system that has Qt gets no root" missing 6.8.2 clang-format clang-tidy
 FAKE_SECONDS=1 run env &
 FAKE_SECONDS=1 run env
 wait
