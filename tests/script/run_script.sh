@@ -7,11 +7,12 @@ script=$1
 # A space in every path.
 place=$(mktemp -d "${TMPDIR:-/tmp}/run script.XXXXXX")
 trap 'rm -rf "$place"' EXIT
+trap 'echo "failed: line $LINENO" >&2 && cat "$place/err" >&2' ERR
 mkdir -p "$place/checkout" "$place/bin"
 cp "$script" "$place/checkout/run"
 
 # No Qt beside these programs, and nothing that knows of packages but the fakes.
-for tool in bash cat cut dirname env flock grep head id mkdir mktemp mv readlink rm sed sha256sum sleep sort tail \
+for tool in bash cat cut dirname env flock grep head mkdir mktemp mv readlink rm sed sha256sum sleep sort tail \
     tar touch; do
     ln -s "$(command -v $tool)" "$place/bin/$tool"
 done
@@ -27,6 +28,8 @@ fake apt-cache <<'FAKE'
 echo "  Candidate: ${FAKE_CANDIDATE:-6.4.2+dfsg-1}"
 FAKE
 fake apt-get <<<'exit 1'
+# Alike for every user.
+fake id <<<'echo 0'
 fake unshare <<'FAKE'
 exec "${@:2}"
 FAKE
