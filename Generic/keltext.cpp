@@ -56,8 +56,10 @@ public:
         if (!painter)
             return;
         const QRegion *clip = state->clipRegion();
-        if (clip && !clip->isEmpty())
-            painter->setClipRegion(*clip, Qt::ReplaceClip);
+        // The node is asked to paint even where a clip leaves nothing of it.
+        if (!clip || clip->isEmpty())
+            return;
+        painter->setClipRegion(*clip, Qt::ReplaceClip);
         painter->setTransform(matrix()->toTransform());
         painter->setOpacity(inheritedOpacity());
         painter->setClipRect(m_rect, Qt::IntersectClip);
