@@ -263,6 +263,7 @@ private Q_SLOTS:
     void hugeItemsShowTheirText();
     void heightGivenAfterCompletionAligns_data();
     void heightGivenAfterCompletionAligns();
+    void heightOfCompletionStays();
     void grabsToImage_data();
     void grabsToImage();
     void movesBetweenWindows();
@@ -1135,7 +1136,7 @@ void tst_KelText::drawsNothing()
 void tst_KelText::hugeItemsShowTheirText_data()
 {
     QTest::addColumn<double>("extent");
-    for (const double extent : {1e4, 1e6, 2147483000.0, 2147483647.0, 1e10, 1e300, infinity})
+    for (const double extent : {1e4, 1e6, 2147483647.0, 1e10, 1e300, infinity})
         QTest::addRow("%g", extent) << extent;
 }
 
@@ -1198,6 +1199,19 @@ void tst_KelText::heightGivenAfterCompletionAligns()
     scene.picture();
     scene.label()->setHeight(height);
     QCOMPARE(difference(scene.picture(), expected), QString());
+}
+
+void tst_KelText::heightOfCompletionStays()
+{
+    Scene scene(
+        m_engine, withLabels("Label", "Item { LABEL { height: 100; verticalAlignment: Qt.AlignBottom } }"));
+    const QImage before = scene.picture();
+    QVERIFY(!isBlank(before));
+    scene.label()->setHeight(170);
+    QCOMPARE(difference(scene.picture(), before), QString());
+    scene.label()->setVAlign(Qt::AlignTop);
+    scene.label()->setVAlign(Qt::AlignBottom);
+    QCOMPARE(difference(scene.picture(), before), QString());
 }
 
 void tst_KelText::grabsToImage_data()
@@ -1314,7 +1328,12 @@ void tst_KelText::diesBetweenFrames()
 void tst_KelText::transformations_data()
 {
     QTest::addColumn<QByteArray>("properties");
-    const auto add = [](const char *tag, const QByteArray &properties) { QTest::newRow(tag) << properties; };
+    QTest::addColumn<QByteArray>("label");
+    const auto add = [](const char *tag, const QByteArray &properties, const QByteArray &label = {}) {
+        QTest::newRow(tag) << properties << label;
+    };
+    // Smaller than its text.
+    const QByteArray cut = "width: 70; height: 14; Component.onCompleted: textWidth = 0";
     add("twice", "scale: 2");
     add("half", "scale: 0.5");
     add("one and a half", "scale: 1.5");
@@ -1323,6 +1342,9 @@ void tst_KelText::transformations_data()
     add("askew", "rotation: 33");
     add("askew and twice", "rotation: -20; scale: 2");
     add("mirrored", "transform: Scale { xScale: -1; origin.x: 80 }");
+    add("flat, cut", "transform: Scale { yScale: 0.3 }", cut);
+    add("half turn, cut", "rotation: 180", cut);
+    add("askew, cut", "rotation: 33", cut);
     add("flat", "transform: Scale { yScale: 0.3 }");
     add("nothing", "scale: 0");
     add("part of a pixel to the right", "x: 40.4");
@@ -1333,27 +1355,28 @@ void tst_KelText::transformations_data()
 void tst_KelText::transformations()
 {
     QFETCH(const QByteArray, properties);
+    QFETCH(const QByteArray, label);
     Scene scene(m_engine,
         withLabels("Label",
             "Item { function change() { part.color = 'white'; } Rectangle { id: part; x: 80; y: 40; width: "
             "50;"
             " height: 30; color: 'lime' } Item { width: 240; height: 90;"
-                + properties + "\nLABEL {} } }"));
+                + properties + "\nLABEL {" + label + "} } }"));
     scene.picture();
     // Only a part of the text is painted now.
     QVERIFY(scene.call("change"));
     const QImage shown = scene.picture();
-    KelText &label = *scene.label();
+    KelText &text = *scene.label();
     QImage expected(shown.size(), shown.format());
     expected.setDevicePixelRatio(shown.devicePixelRatio());
     expected.fill(Qt::white);
     QPainter painter(&expected);
     painter.setRenderHint(QPainter::Antialiasing);
     bool isVisible = true;
-    painter.setTransform(label.itemTransform(scene.window().contentItem(), &isVisible));
-    if (isVisible && label.parentItem()->scale() > 0) {
-        painter.setClipRect(label.boundingRect());
-        label.paint(&painter);
+    painter.setTransform(text.itemTransform(scene.window().contentItem(), &isVisible));
+    if (isVisible && text.parentItem()->scale() > 0) {
+        painter.setClipRect(text.boundingRect());
+        text.paint(&painter);
     }
     painter.end();
     // A rounding more or less, where the transformation is multiplied in another order.
