@@ -88,6 +88,7 @@ class PictureLabel : public KelText
 protected:
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override
     {
+        // Past the label's own way of painting. NOLINTNEXTLINE(bugprone-parent-virtual-call)
         return QQuickPaintedItem::updatePaintNode(oldNode, data);
     }
 };
@@ -400,7 +401,7 @@ void tst_KelText::setters_data()
     add("verticalAlignment", "baseline", value(Qt::AlignVCenter), value(Qt::AlignBaseline), true, true);
     add("wrapMode", "words", value(KelText::WrapMode::NoWrap), value(KelText::WrapMode::WordWrap), false,
         true);
-    add("wrapMode", "without a name", value(KelText::WrapMode::Wrap), value(KelText::WrapMode(2)), false,
+    add("wrapMode", "anywhere", value(KelText::WrapMode::Wrap), value(KelText::WrapMode::WrapAnywhere), false,
         true);
     add("maximumLineCount", "one", 2, 1, false, true);
     add("maximumLineCount", "none", 1, 0, false, true);
@@ -1495,7 +1496,7 @@ void tst_KelText::sameAsQtQuickText()
         scene("Text",
             "renderType: Text.NativeRendering; horizontalAlignment: Text.AlignLeft; objectName: 'text'"));
     auto *item = expected.root()->findChild<QQuickItem *>(u"text"_s);
-    const QFont usedFont = item->property("font").value<QFont>();
+    const auto usedFont = item->property("font").value<QFont>();
     QCOMPARE(shown.label()->font(), usedFont);
     const QSizeF size(QFontMetricsF(usedFont).horizontalAdvance(text), item->implicitHeight());
     QVERIFY(size.width() < area.width());
