@@ -32,7 +32,8 @@ QImage mapped(const QImage &picture, NewPixel newPixel)
     result.setDotsPerMeterY(picture.dotsPerMeterY());
     result.setOffset(picture.offset());
     result.setColorSpace(picture.colorSpace());
-    for (const QString &key : picture.textKeys())
+    const QStringList keys = picture.textKeys();
+    for (const QString &key : keys)
         result.setText(key, picture.text(key));
     return result;
 }

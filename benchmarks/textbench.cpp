@@ -26,18 +26,20 @@ class Alternating
 {
 public:
     Alternating(const QString &first, const QString &second)
-        : m_texts{first, second}
+        : m_first(first)
+        , m_second(second)
     {
     }
 
     QVariant next()
     {
         m_turn = !m_turn;
-        return m_texts[m_turn];
+        return m_turn ? m_second : m_first;
     }
 
 private:
-    QVariant m_texts[2];
+    QVariant m_first;
+    QVariant m_second;
     bool m_turn = false;
 };
 
@@ -108,7 +110,7 @@ void measureLong(Table &table, int lines)
     const QString name = u"text, 1 MB on %1 lines"_s.arg(lines);
     if (!table.wants(name))
         return;
-    constexpr qsizetype megabyte = 1024 * 1024;
+    constexpr qsizetype megabyte = 1 << 20;
     Scene scene;
     const auto our = scene.create(ourLabel);
     const auto their = scene.create(theirLabel);

@@ -682,7 +682,7 @@ private Q_SLOTS:
     void enormousTextStaysBounded()
     {
         QFETCH(QString, part);
-        const QString text = repeated(part, 10 * 1024 * 1024);
+        const QString text = repeated(part, 10 << 20);
         const int limit = 1 << 18;
         for (const int width : {0, 1, 1280}) {
             for (const int lines : {0, 1, 3}) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtTest
 import Kelui.UI.Qml.Controls.Generic as KELUIQCG
@@ -103,10 +105,10 @@ Item {
                 { tag: "textBlockBottomMargin", value: 0 },
                 { tag: "textBlockSpacing", value: 10 },
                 { tag: "titleText", value: "" },
-                { tag: "titleFont", value: Qt.application.font },
+                { tag: "titleFont", value: Application.font },
                 { tag: "titleAlignment", value: 33 },
                 { tag: "subtitleText", value: "" },
-                { tag: "subtitleFont", value: Qt.application.font },
+                { tag: "subtitleFont", value: Application.font },
                 { tag: "subtitleAlignment", value: 66 },
                 { tag: "isFixedWidth", value: true },
                 { tag: "subtitle", value: "" },
