@@ -6,6 +6,7 @@
 #include <QtQuick/QSGRenderNode>
 #include <QtQuick/QSGRendererInterface>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -20,6 +21,18 @@ int toPixels(double value)
     if (!(value >= Limits::min() && value <= Limits::max()))
         return Limits::max();
     return int(value);
+}
+
+//! What the painter's window and viewport do to its coordinates: nothing in a frame, something in a layer.
+QTransform viewTransform(const QPainter &painter)
+{
+    if (!painter.viewTransformEnabled())
+        return {};
+    const QRect from = painter.window();
+    const QRect to = painter.viewport();
+    const qreal xScale = qreal(to.width()) / from.width();
+    const qreal yScale = qreal(to.height()) / from.height();
+    return {xScale, 0, 0, yScale, to.x() - from.x() * xScale, to.y() - from.y() * yScale};
 }
 
 void paintText(QPainter &painter, const kelcore::TextRenderer &renderer, const QColor &color)
@@ -41,9 +54,9 @@ public:
     {
     }
 
-    void sync(const QRectF &rect, const kelcore::TextRenderer &renderer, const QColor &color)
+    void sync(QSize size, const kelcore::TextRenderer &renderer, const QColor &color)
     {
-        m_rect = rect;
+        m_area.setSize(size);
         m_renderer = renderer;
         m_color = color;
         markDirty(DirtyMaterial | DirtyGeometry);
@@ -56,23 +69,26 @@ public:
         if (!painter)
             return;
         const QRegion *clip = state->clipRegion();
-        if (clip && !clip->isEmpty())
-            painter->setClipRegion(*clip, Qt::ReplaceClip);
-        painter->setTransform(matrix()->toTransform());
+        // The node is asked to paint even where a clip leaves nothing of it.
+        if (!clip || clip->isEmpty())
+            return;
+        painter->setClipRegion(*clip, Qt::ReplaceClip);
+        // The window of the painter tells the renderer the item's area; what it was before goes into the
+        // matrix.
+        painter->setTransform(matrix()->toTransform() * viewTransform(*painter));
+        painter->setViewport(m_area);
+        painter->setWindow(m_area);
         painter->setOpacity(inheritedOpacity());
-        painter->setClipRect(m_rect, Qt::IntersectClip);
-        // The frame's area is the window's; the window of the painter tells the renderer the item's.
-        painter->setViewport(m_rect.toRect());
-        painter->setWindow(m_rect.toRect());
+        painter->setClipRect(m_area, Qt::IntersectClip);
         paintText(*painter, m_renderer, m_color);
     }
 
     RenderingFlags flags() const override { return BoundedRectRendering; }
-    QRectF rect() const override { return m_rect; }
+    QRectF rect() const override { return m_area; }
 
 private:
     QQuickWindow *m_window;
-    QRectF m_rect;
+    QRect m_area;
     kelcore::TextRenderer m_renderer;
     QColor m_color;
 };
@@ -238,12 +254,15 @@ QSGNode *KelText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
         }
         return QQuickPaintedItem::updatePaintNode(oldNode, data);
     }
-    if (width() <= 0 || height() <= 0) {
+    // Sides in whole pixels, as those of a picture; larger than any screen, they change nothing.
+    constexpr qreal longest = 1 << 24;
+    const QSize size(qRound(std::clamp(width(), 0.0, longest)), qRound(std::clamp(height(), 0.0, longest)));
+    if (size.isEmpty()) {
         delete oldNode;
         return nullptr;
     }
     auto *node = oldNode ? static_cast<TextNode *>(oldNode) : new TextNode(window());
-    node->sync(boundingRect(), m_renderer, m_color);
+    node->sync(size, m_renderer, m_color);
     return node;
 }
 

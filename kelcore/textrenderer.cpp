@@ -6,6 +6,7 @@
 #include <QtCore/QThread>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
+#include <QtGui/QRawFont>
 #include <QtGui/QTextLayout>
 
 #include <algorithm>
@@ -224,11 +225,34 @@ struct TextRenderer::Picture
     };
 
     std::vector<Run> runs;
+    //! Lines under, through and over the text.
+    std::vector<QRect> decorations;
 
     void add(QPointF position, const QList<QGlyphRun> &glyphs)
     {
-        for (const QGlyphRun &run : glyphs)
+        for (const QGlyphRun &run : glyphs) {
             runs.push_back({position, run});
+            // Painters draw the decorations of glyphs in the wrong place unless their coordinates are the
+            // device's.
+            runs.back().glyphs.setUnderline(false);
+            runs.back().glyphs.setStrikeOut(false);
+            runs.back().glyphs.setOverline(false);
+        }
+    }
+
+    void decorate(const QFont &font, const QRectF &line, qreal baseline)
+    {
+        if (runs.empty() || !(font.underline() || font.strikeOut() || font.overline()))
+            return;
+        const QRawFont raw = runs.back().glyphs.rawFont();
+        const auto add = [&](bool isWanted, qreal offset) {
+            if (isWanted)
+                decorations.emplace_back(int(line.x()), qRound(baseline + offset), qCeil(line.width()),
+                    qCeil(raw.lineThickness()));
+        };
+        add(font.underline(), raw.underlinePosition());
+        add(font.strikeOut(), raw.ascent() / -3);
+        add(font.overline(), -raw.ascent());
     }
 };
 
@@ -474,7 +498,10 @@ private:
             if (isStretched)
                 line.paragraph->glyphs = Paragraph::Glyphs::Spoiled;
         }
-        if (!ellipsis || room > width)
+        const bool isCut = ellipsis && room <= width;
+        const qreal shown = isStretched ? width : line.advance + (isCut ? room : 0);
+        picture.decorate(font, {start, 0, shown, 0}, textLine.y() + textLine.ascent());
+        if (!isCut)
             return;
         const qreal end = isStretched ? width - room : start + line.advance;
         picture.add({isRightToLeft ? start : end, textLine.y() + textLine.ascent() - ellipsis->ascent},
@@ -633,6 +660,8 @@ void TextRenderer::draw(QPainter &painter) const
     const int top = m_fit.top(painter);
     for (const Picture::Run &run : m_picture->runs)
         painter.drawGlyphRun(run.position + QPointF(0, top), run.glyphs);
+    for (const QRect &line : m_picture->decorations)
+        painter.fillRect(line.translated(0, top), painter.pen().color());
 }
 
 void TextRenderer::makePicture() const
