@@ -103,8 +103,8 @@ Ellipsis ellipsisOf(const QFont &font)
     if (!qApp || qApp->thread() != QThread::currentThread())
         return Ellipsis(font);
     auto &known = ellipses();
-    auto found = known.constFind(font);
-    if (found == known.constEnd()) {
+    auto found = known.find(font);
+    if (found == known.end()) {
         constexpr qsizetype enough = 32;
         if (known.isEmpty())
             qAddPostRoutine([] { ellipses().clear(); });

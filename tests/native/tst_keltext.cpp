@@ -1263,8 +1263,8 @@ void tst_KelText::grabsToImage()
 
 void tst_KelText::movesBetweenWindows()
 {
-    for (const QByteArray type : {"Label", "PictureLabel"}) {
-        for (const QByteArray properties : {"", "fillColor: 'yellow'"}) {
+    for (const QByteArray &type : {"Label"_ba, "PictureLabel"_ba}) {
+        for (const QByteArray &properties : {""_ba, "fillColor: 'yellow'"_ba}) {
             Scene first(m_engine, withLabels(type, "Item { LABEL {" + properties + "} }"));
             Scene second(m_engine, withLabels(type, "Item {}"));
             KelText &label = *first.label();
@@ -1424,7 +1424,7 @@ void tst_KelText::layersLikeThoseOfQtQuickText()
     QCOMPARE(difference(first, expected.picture()), QString());
     // Qt 6.8 loses layers on screens with more pixels per unit.
     QVERIFY(!isBlank(first) || first.devicePixelRatio() != 1);
-    for (const QByteArray text : {"|Other|", " |Title, слово| "}) {
+    for (const QByteArray &text : {"|Other|"_ba, " |Title, слово| "_ba}) {
         shown.root()->findChild<QQuickItem *>(u"text"_s)->setProperty("text", QString::fromUtf8(text));
         expected.root()->findChild<QQuickItem *>(u"text"_s)->setProperty("text", QString::fromUtf8(text));
         QCOMPARE(difference(shown.picture(), expected.picture()), QString());
