@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Kelui.UI.Qml.Controls.Generic as KELUIQCG
+
+/*!
+    An on-screen keyboard. It takes no focus and no key presses: the application chooses the current key,
+    calls processKeyActivated() on OK, and hands what the signals say to a field such as LineEdit.
+*/
+GridLayout {
+    id: _keyboard
+
+    /*! Which keys are offered, a KelGlobal.KeyboardType. A change goes to the first layout of that type. */
+    property int type: KELUIQCG.KelGlobal.NumericKeyboard
+    /*! What is shown, a KelGlobal.KeyboardLayoutType; a numeric keyboard shows no other than NumericLayout. */
+    property int layout: KELUIQCG.KelGlobal.NumericLayout
+
+    /*! Corner radius of the keys in pixels; they draw square corners all the same. */
+    property real keyRoundingRadius: 0
+    // The defaults that strike the eye ask for colours of the application's own.
+    property color keyBackgroundColor: "red"
+    property color keyTextColor: "green"
+    /*! The font of text keys, and of all keys that have no font below. */
+    property font symbolKeysFont
+    /*! The font of the keys that change the layout. */
+    property font controlKeysFont
+    /*! The font of the keys that type the end of an address. */
+    property font domainKeysFont
+    /*! Pixels. */
+    property int keyHeight: 60
+    /*! Pixels; the space key takes what its columns give. */
+    property int keyWidth: 60
+
+    /*! Image addresses of the keys that have an icon. */
+    property string backspaceIconPath
+    property string leftIconPath
+    property string rightIconPath
+    property string capslockEnabledIconPath
+    property string capslockDisabledIconPath
+
+    /*! Whether letters are typed in upper case. */
+    property bool capslockEnabled: false
+    /*! Columns that the space key takes; set anew with each layout. */
+    property int spaceKeyColumnSpan: 5
+    /*!
+        The key to focus after a key has changed the layout: the one that leads back. The signal comes with
+        every such change, also when the number is the same. -1 before the first.
+    */
+    property int preferablyFocusedLayoutChangeKeyIndex: -1
+
+    /*! The keys of each layout, row by row; KelGlobal tells what the words mean. */
+    property list<string> numericLayout: KELUIQCG.KelGlobal.numericLayout
+    property list<string> russianLayout: KELUIQCG.KelGlobal.russianLayout
+    property list<string> russianAndNumericLayout: KELUIQCG.KelGlobal.russianAndNumericLayout
+    property list<string> englishLayout: KELUIQCG.KelGlobal.englishLayout
+    property list<string> englishAndNumericLayout: KELUIQCG.KelGlobal.englishAndNumericLayout
+    property list<string> symbolsLayout: KELUIQCG.KelGlobal.symbolsLayout
+    property list<string> symbolsAndNumericLayout: KELUIQCG.KelGlobal.symbolsAndNumericLayout
+
+    /*! Text to insert at the cursor. */
+    signal keyTextActivated(text: string)
+    /*! Delete before the cursor. */
+    signal keyBackspaceActivated
+    /*! Move the cursor. */
+    signal keyLeftActivated
+    signal keyRightActivated
+
+    rows: 1
+    columns: 11
+    rowSpacing: 6
+    columnSpacing: 6
+
+    onTypeChanged: processTypeChanged()
+    onLayoutChanged: processLayoutChanged()
+    // The list of the layout shown may be replaced as well.
+    onNumericLayoutChanged: processLayoutChanged()
+    onRussianLayoutChanged: processLayoutChanged()
+    onRussianAndNumericLayoutChanged: processLayoutChanged()
+    onEnglishLayoutChanged: processLayoutChanged()
+    onEnglishAndNumericLayoutChanged: processLayoutChanged()
+    onSymbolsLayoutChanged: processLayoutChanged()
+    onSymbolsAndNumericLayoutChanged: processLayoutChanged()
+
+    QtObject {
+        id: _private
+
+        readonly property string spaceKeyText: qsTranslate("KeyItem", "SPACE_KEY")
+
+        function show(keys: list<string>, rows: int, columns: int, spaceKeyColumnSpan: int) {
+            _keyboard.rows = rows;
+            _keyboard.columns = columns;
+            _keyboard.spaceKeyColumnSpan = spaceKeyColumnSpan;
+            _repeater.model = keys;
+        }
+
+        function changeLayout(layout: int) {
+            const previousLayout = _keyboard.layout;
+            _keyboard.layout = layout;
+            for (let i = 0; i < _repeater.count; ++i) {
+                const key = _repeater.itemAt(i) as KELUIQCG.Key;
+                if (key.type === KELUIQCG.KelGlobal.LayoutChangeKey && key.layout === previousLayout) {
+                    if (_keyboard.preferablyFocusedLayoutChangeKeyIndex === i)
+                        _keyboard.preferablyFocusedLayoutChangeKeyIndexChanged();
+                    else
+                        _keyboard.preferablyFocusedLayoutChangeKeyIndex = i;
+                    return;
+                }
+            }
+        }
+
+        // Deliberately works on what the keys show and ends their bindings: "A" becomes "a", whatever its
+        // descriptor.
+        function toggleCapslock() {
+            _keyboard.capslockEnabled = !_keyboard.capslockEnabled;
+            for (let i = 0; i < _repeater.count; ++i) {
+                const key = _repeater.itemAt(i) as KELUIQCG.Key;
+                if (key.type === KELUIQCG.KelGlobal.TextKey)
+                    key.text = _keyboard.capslockEnabled ? key.text.toUpperCase() : key.text.toLowerCase();
+                else if (key.type === KELUIQCG.KelGlobal.CapslockKey)
+                    key.imagePath = _keyboard.capslockEnabled ? _keyboard.capslockEnabledIconPath
+                                                              : _keyboard.capslockDisabledIconPath;
+            }
+        }
+    }
+
+    Repeater {
+        id: _repeater
+
+        model: _keyboard.numericLayout
+
+        delegate: KELUIQCG.Key {
+            required property string modelData
+
+            Layout.columnSpan: type === KELUIQCG.KelGlobal.SpaceKey ? _keyboard.spaceKeyColumnSpan : 1
+            Layout.fillWidth: type === KELUIQCG.KelGlobal.SpaceKey
+            type: _keyboard.keyType(modelData)
+            layout: _keyboard.keyLayout(modelData)
+            text: _keyboard.keyText(modelData)
+            imagePath: _keyboard.keyImagePath(modelData)
+            backgroundColor: _keyboard.keyBackgroundColor
+            roundingRadius: _keyboard.keyRoundingRadius
+            // A grid remembers the first width and height that it sees; it follows implicit ones.
+            implicitWidth: _keyboard.keyWidth
+            implicitHeight: _keyboard.keyHeight
+            width: _keyboard.keyWidth
+            height: _keyboard.keyHeight
+            textColor: _keyboard.keyTextColor
+            font: type === KELUIQCG.KelGlobal.DomainKey ? _keyboard.domainKeysFont
+                  : type === KELUIQCG.KelGlobal.LayoutChangeKey ? _keyboard.controlKeysFont
+                  : _keyboard.symbolKeysFont
+        }
+    }
+
+    /*! Does what the key at an index is for; nothing where there is no key. */
+    function processKeyActivated(index: int) {
+        const key = _repeater.itemAt(index) as KELUIQCG.Key;
+        if (!key)
+            return;
+        switch (key.type) {
+        case KELUIQCG.KelGlobal.TextKey:
+        case KELUIQCG.KelGlobal.DomainKey:
+            keyTextActivated(key.text);
+            break;
+        case KELUIQCG.KelGlobal.SpaceKey:
+            keyTextActivated(" ");
+            break;
+        case KELUIQCG.KelGlobal.BackspaceKey:
+            keyBackspaceActivated();
+            break;
+        case KELUIQCG.KelGlobal.LeftKey:
+            keyLeftActivated();
+            break;
+        case KELUIQCG.KelGlobal.RightKey:
+            keyRightActivated();
+            break;
+        case KELUIQCG.KelGlobal.LayoutChangeKey:
+            _private.changeLayout(key.layout);
+            break;
+        case KELUIQCG.KelGlobal.CapslockKey:
+            _private.toggleCapslock();
+            break;
+        }
+    }
+
+    /*! Shows the first layout of the type. */
+    function processTypeChanged() {
+        switch (type) {
+        case KELUIQCG.KelGlobal.NumericKeyboard:
+            layout = KELUIQCG.KelGlobal.NumericLayout;
+            break;
+        case KELUIQCG.KelGlobal.AlphabeticKeyboard:
+            layout = KELUIQCG.KelGlobal.RussianLayout;
+            break;
+        case KELUIQCG.KelGlobal.AlphanumericKeyboard:
+            layout = KELUIQCG.KelGlobal.EnglishLayout;
+            break;
+        }
+        // A layout that stays has other keys in another type.
+        processLayoutChanged();
+    }
+
+    /*! Makes the keys of the layout; leaves those shown where the type has no such layout. */
+    function processLayoutChanged() {
+        const isAlphanumeric = type === KELUIQCG.KelGlobal.AlphanumericKeyboard;
+        if (layout === KELUIQCG.KelGlobal.NumericLayout) {
+            _private.show(numericLayout, 1, 11, spaceKeyColumnSpan);
+        } else if (isAlphanumeric || type === KELUIQCG.KelGlobal.AlphabeticKeyboard) {
+            const rowCount = isAlphanumeric ? 5 : 4;
+            switch (layout) {
+            case KELUIQCG.KelGlobal.RussianLayout:
+                _private.show(isAlphanumeric ? russianAndNumericLayout : russianLayout, rowCount, 12, 6);
+                break;
+            case KELUIQCG.KelGlobal.EnglishLayout:
+                _private.show(isAlphanumeric ? englishAndNumericLayout : englishLayout, rowCount, 11, 5);
+                break;
+            case KELUIQCG.KelGlobal.SymbolsLayout:
+                if (isAlphanumeric)
+                    _private.show(symbolsAndNumericLayout, rowCount, 11, 6);
+                else
+                    _private.show(symbolsLayout, rowCount, 10, 5);
+                break;
+            }
+        }
+    }
+
+    /*! What the key of a descriptor does, a KelGlobal.KeyType. */
+    function keyType(key: string): int {
+        switch (key) {
+        case "backspace":
+            return KELUIQCG.KelGlobal.BackspaceKey;
+        case "capslock":
+            return KELUIQCG.KelGlobal.CapslockKey;
+        case "space":
+            return KELUIQCG.KelGlobal.SpaceKey;
+        case "left":
+            return KELUIQCG.KelGlobal.LeftKey;
+        case "right":
+            return KELUIQCG.KelGlobal.RightKey;
+        case "layout_rus":
+        case "layout_eng":
+        case "layout_symbols":
+            return KELUIQCG.KelGlobal.LayoutChangeKey;
+        case "domain_com":
+        case "domain_ru":
+            return KELUIQCG.KelGlobal.DomainKey;
+        }
+        return KELUIQCG.KelGlobal.TextKey;
+    }
+
+    /*! The layout that the key of a descriptor switches to, -1 for other keys. */
+    function keyLayout(key: string): int {
+        switch (key) {
+        case "layout_rus":
+            return KELUIQCG.KelGlobal.RussianLayout;
+        case "layout_eng":
+            return KELUIQCG.KelGlobal.EnglishLayout;
+        case "layout_symbols":
+            return KELUIQCG.KelGlobal.SymbolsLayout;
+        }
+        return -1;
+    }
+
+    /*! The label of a descriptor's key: what a text key types now. */
+    function keyText(key: string): string {
+        switch (key) {
+        case "backspace":
+        case "capslock":
+        case "left":
+        case "right":
+            return "";
+        case "space":
+            return _private.spaceKeyText;
+        case "layout_rus":
+            return "Рус";
+        case "layout_eng":
+            return "Eng";
+        case "layout_symbols":
+            return type === KELUIQCG.KelGlobal.AlphanumericKeyboard ? "#+?" : "1#+";
+        case "domain_com":
+            return ".com";
+        case "domain_ru":
+            return ".ru";
+        }
+        return capslockEnabled ? key.toUpperCase() : key;
+    }
+
+    /*! Image address of a descriptor's icon, empty for keys with a label. */
+    function keyImagePath(key: string): string {
+        switch (key) {
+        case "backspace":
+            return backspaceIconPath;
+        case "capslock":
+            return capslockEnabled ? capslockEnabledIconPath : capslockDisabledIconPath;
+        case "left":
+            return leftIconPath;
+        case "right":
+            return rightIconPath;
+        }
+        return "";
+    }
+}
