@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as QQT
+import Kelui.UI.Qml.Controls.Generic as KELUIQCG
+
+/*!
+    A box with a check icon, and a title beside it. Its colours follow enabled, checked and focused, in this
+    order. A map of state colours is an object with the keys "disabled", "checked", "focused" and "normal";
+    every map must be set.
+*/
+QQT.CheckBox {
+    id: _checkBox
+
+    /*! Set by the application's own focus logic; selects the "focused" colours. */
+    property bool focused: false
+    /*! The box alone, for a focus frame around it. */
+    readonly property Item frameSourceItem: _indicator
+
+    /*! Round the corners of the box by roundingRadius. */
+    property bool forceRounding: false
+    /*! Pixels. */
+    property int roundingRadius: 9
+    /*! Size of the box in pixels. */
+    property size indicatorSize: Qt.size(60, 60)
+    /*! State colours of the box. */
+    property var indicatorColors
+    /*! Image address of the check icon, which is drawn in its own size and colours. */
+    property string iconPath: ""
+    /*! State colours whose alpha is the opacity of the check icon. */
+    property var iconColors
+    property font titleFont
+    /*! State colours of the title. */
+    property var titleColors
+
+    implicitWidth: implicitContentWidth
+    implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
+    spacing: 24
+
+    indicator: KELUIQCG.Rectangle {
+        id: _indicator
+
+        anchors.verticalCenter: parent?.verticalCenter
+        implicitWidth: _checkBox.indicatorSize.width
+        implicitHeight: _checkBox.indicatorSize.height
+        forceRounding: _checkBox.forceRounding
+        roundingRadius: _checkBox.roundingRadius
+        color: _checkBox.stateColor(_checkBox.indicatorColors)
+
+        Image {
+            id: _checkBoxIcon
+
+            anchors.fill: parent
+            fillMode: Image.Pad
+            source: _checkBox.iconPath
+            visible: _checkBox.checked
+            opacity: _checkBox.stateColor(_checkBox.iconColors).a
+        }
+    }
+
+    contentItem: RowLayout {
+        id: _contentItem
+
+        KELUIQCG.Text {
+            Layout.leftMargin: _indicator.width + _checkBox.spacing
+            Layout.alignment: Qt.AlignVCenter
+            Layout.fillWidth: true
+            horizontalAlignment: Qt.AlignLeft
+            font: _checkBox.titleFont
+            color: _checkBox.stateColor(_checkBox.titleColors)
+            textWidth: width
+            text: _checkBox.text
+        }
+    }
+
+    /*! The colour of a map for the state that the check box is in. */
+    function stateColor(colors: var): color {
+        if (!enabled)
+            return colors["disabled"];
+        if (checked)
+            return colors["checked"];
+        if (focused)
+            return colors["focused"];
+        return colors["normal"];
+    }
+}

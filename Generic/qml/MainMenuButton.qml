@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as QQT
+import Kelui.UI.Qml.Controls.Generic as KELUIQCG
+
+/*!
+    An entry of a main menu: icon, text and picture on a rounded background. Its height is fixed; only the
+    background grows, so that a change of focus moves nothing. A list of colours has three entries: normal,
+    checked, focused. Focus wins, and a disabled button looks like any other.
+*/
+QQT.Button {
+    id: _button
+
+    /*! Set by the application's own focus logic. */
+    property bool focused: false
+    /*! Height of the button in pixels. */
+    property real baseHeight: 57
+    /*! Height of what is drawn, around the middle of the button. */
+    property real backgroundHeight: baseHeight
+
+    /*! Animate changes of the background's colour. */
+    property bool animateBackgroundColors: false
+    /*! Animate changes of the text's colour. */
+    property bool animateTextColors: false
+    /*! Milliseconds. */
+    property int backgroundColorsAnimationDuration: 125
+    /*! An Easing type. */
+    property int backgroundColorsAnimationEasingType: Easing.Linear
+    /*! Curve for Easing.BezierSpline; not used with other types. */
+    property list<real> backgroundColorsAnimationBezierInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
+    /*! Milliseconds. */
+    property int textColorsAnimationDuration: 125
+    /*! An Easing type. */
+    property int textColorsAnimationEasingType: Easing.Linear
+    /*! Curve for Easing.BezierSpline; not used with other types. */
+    property list<real> textColorsAnimationBezierInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
+
+    /*! Corner radius of the background in pixels. */
+    property real roundingRadius: 15
+    property list<color> backgroundColors: [
+        Qt.rgba(1.0, 1.0, 1.0, 1.0), Qt.rgba(1.0, 1.0, 1.0, 0.8), Qt.rgba(1.0, 1.0, 1.0, 0.6)
+    ]
+
+    /*! Image address. */
+    property string leftIconSource: ""
+    /*! Kept for the application; the icon has the size of its image. */
+    property size leftIconSize: Qt.size(16, 16)
+    property list<color> leftIconColors: [
+        Qt.rgba(0.0, 0.0, 0.0, 1.0), Qt.rgba(0.0, 0.0, 0.0, 0.8), Qt.rgba(0.0, 0.0, 0.0, 0.6)
+    ]
+
+    /*! Image address. */
+    property string rightIconSource: ""
+    /*! Size of the picture in pixels, in which it is decoded as well. Must be set where there is a picture. */
+    property size rightIconSize
+    /*! Corner radius in pixels; accepted, not drawn without OpenGL. */
+    property int rightIconRoundingRadius: 0
+
+    property font textFont
+    property list<color> textColors: [
+        Qt.rgba(0.0, 0.0, 0.0, 1.0), Qt.rgba(0.0, 0.0, 0.0, 0.8), Qt.rgba(0.0, 0.0, 0.0, 0.6)
+    ]
+    /*! Pixels between icon, text and picture. */
+    property int contentSpacing: 8
+
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: baseHeight + topInset + bottomInset
+    leftPadding: 16
+    topPadding: 0
+    rightPadding: 16
+    bottomPadding: 0
+    leftInset: 0
+    rightInset: 0
+    checkable: true
+    checked: false
+
+    // What may not fill keeps its preferred size, in the middle of the row.
+    contentItem: RowLayout {
+        spacing: _button.contentSpacing
+
+        KELUIQCG.Icon {
+            id: _leftIcon
+
+            source: _button.leftIconSource
+            iconColor: _button.stateColor(_button.leftIconColors)
+            cacheIconImage: true
+            visible: _button.leftIconSource !== ""
+        }
+
+        KELUIQCG.Text {
+            id: _text
+
+            horizontalAlignment: Qt.AlignHCenter
+            verticalAlignment: Qt.AlignVCenter
+            maximumLineCount: 1
+            font: _button.textFont
+            color: _button.stateColor(_button.textColors)
+            text: _button.text
+
+            Behavior on color {
+                enabled: _button.animateTextColors
+
+                ColorAnimation {
+                    duration: _button.textColorsAnimationDuration
+                    easing.type: _button.textColorsAnimationEasingType
+                    easing.bezierCurve: _button.textColorsAnimationEasingType === Easing.BezierSpline
+                                        ? _button.textColorsAnimationBezierInterpolator : []
+                }
+            }
+        }
+
+        KELUIQCG.RoundedImage {
+            id: _icon
+
+            Layout.preferredWidth: _button.rightIconSize.width
+            Layout.preferredHeight: _button.rightIconSize.height
+            roundingRadius: _button.rightIconRoundingRadius
+            sourceSize: _button.rightIconSize
+            source: _button.rightIconSource
+            visible: _button.rightIconSource !== ""
+        }
+    }
+
+    background: KELUIQCG.Rectangle {
+        id: _background
+
+        anchors.verticalCenter: parent?.verticalCenter
+        height: _button.backgroundHeight
+        forceRounding: true
+        roundingRadius: _button.roundingRadius
+        color: _button.stateColor(_button.backgroundColors)
+
+        Behavior on color {
+            enabled: _button.animateBackgroundColors
+
+            ColorAnimation {
+                duration: _button.backgroundColorsAnimationDuration
+                easing.type: _button.backgroundColorsAnimationEasingType
+                easing.bezierCurve: _button.backgroundColorsAnimationEasingType === Easing.BezierSpline
+                                    ? _button.backgroundColorsAnimationBezierInterpolator : []
+            }
+        }
+    }
+
+    /*! The colour of a list for the state that the button is in. */
+    function stateColor(colors: list<color>): color {
+        // A typed list that is a parameter cannot be indexed itself.
+        const copy = colors;
+        if (focused)
+            return copy[2];
+        if (checked)
+            return copy[1];
+        return copy[0];
+    }
+}
