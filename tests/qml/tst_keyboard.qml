@@ -873,6 +873,16 @@ Rectangle {
             compareScreen(keyboard, screens[1]);
         }
 
+        // Keys that change no layout have the number -1 as well.
+        function test_unknownLayoutHasNoWayBack() {
+            const keyboard = createAt(alphabetic, russian);
+            keyboard.layout = -1;
+            const events = record(keyboard);
+            activate(keyboard, "Eng");
+            compare(events, ["layout 1"]);
+            compareScreen(keyboard, screens[2]);
+        }
+
         function test_firstOfSeveralWaysBackIsTheHint() {
             const keyboard = createAt(alphabetic, russian);
             // A text key is no way back, whatever its number.
