@@ -19,8 +19,7 @@ public:
     Q_INVOKABLE static bool press(QObject *target, int key, const QString &text = {},
         int modifiers = Qt::NoModifier, bool isAutoRepeat = false)
     {
-        QKeyEvent event(
-            QEvent::KeyPress, key, Qt::KeyboardModifiers::fromInt(modifiers), text, isAutoRepeat);
+        QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers::fromInt(modifiers), text, isAutoRepeat);
         QCoreApplication::sendEvent(target, &event);
         return event.isAccepted();
     }
