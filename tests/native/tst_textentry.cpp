@@ -318,7 +318,7 @@ public:
     }
 
 private:
-    int below(int bound) { return int(m_random.bounded(bound)); }
+    int below(int bound) { return m_random.bounded(bound); }
 
     template <typename List>
     auto oneOf(const List &list)
@@ -326,7 +326,7 @@ private:
         return list[below(int(std::size(list)))];
     }
 
-    QString letter() { return QString(oneOf(QStringView(u"абвгдеёabcdef0123456789 .№"))); }
+    QChar letter() { return oneOf(QStringView(u"абвгдеёabcdef0123456789 .№")); }
 
     QString activateKey()
     {
@@ -355,7 +355,7 @@ private:
     {
         const int key = oneOf(std::array{Qt::Key_Left, Qt::Key_Right, Qt::Key_Backspace, Qt::Key_Delete,
             Qt::Key_Home, Qt::Key_End, Qt::Key_A, Qt::Key_A, Qt::Key_A});
-        const QString text = key == Qt::Key_A ? letter() : QString();
+        const QString text = key == Qt::Key_A ? QString(letter()) : QString();
         Remote::press(m_scene.field(), key, text);
         m_model.pressKey(key, text);
         return u"press key %1 with \"%2\""_s.arg(key, 0, 16).arg(text);

@@ -612,7 +612,7 @@ Item {
 
         function test_masksAreEditedAsByKeys_data() {
             const masks = [[_test.phoneMask, "123"], ["000.000;_", "123"], ["(999)", "123"], [">AAA<aaa!aa", "aBя"],
-                           ["XXXX", "a1-"], ["xxxx;_", "a1-"], ["NNnn;.", "aя1"], ["Hh-bB", "101"],
+                           ["XXXX", "a1-"], ["xxxx;_", "a1-"], ["XXXX;_", "a b"], ["NNnn;.", "aя1"], ["Hh-bB", "101"],
                            ["\\A99", "123"], ["HH:HH:HH;_", "1aF"], ["99/99/0000;_", "123"]];
             const rows = [];
             for (const [mask, letters] of masks) {
@@ -653,6 +653,9 @@ Item {
                 { tag: "before a fixed part", mask: phoneMask, add: "912", wrong: "x" },
                 { tag: "blank", mask: "XXX", add: "a", wrong: " " },
                 { tag: "blank character", mask: "XXX;_", add: "a", wrong: "_" },
+                { tag: "blank before text", mask: "XXX", add: "abc", left: 2, wrong: " " },
+                { tag: "blank character before text", mask: "XXX;_", add: "abc", left: 2, wrong: "_" },
+                { tag: "before text", mask: "999", add: "123", left: 3, wrong: "a " },
                 { tag: "full", mask: "AA", add: "ab", wrong: "c" },
             ];
         }
@@ -662,6 +665,7 @@ Item {
             field.cursorPosition = 0;
             for (const letter of data.add)
                 field.addText(letter);
+            times(data.left ?? 0, () => field.moveCursorToLeft());
             const before = state(field);
             for (const letter of data.wrong) {
                 field.addText(letter);
