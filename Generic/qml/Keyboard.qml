@@ -93,6 +93,18 @@ GridLayout {
             _keyboard.columns = columns;
             _keyboard.spaceKeyColumnSpan = spaceKeyColumnSpan;
             _repeater.model = keys;
+            for (let i = 0; i < keys.length; ++i) {
+                if (keys[i] === "space")
+                    widenKey(i);
+            }
+        }
+
+        function widenKey(index: int) {
+            const key = _repeater.itemAt(index) as KELUIQCG.Key;
+            if (!key)
+                return;
+            key.Layout.columnSpan = _keyboard.spaceKeyColumnSpan;
+            key.Layout.fillWidth = true;
         }
 
         function changeLayout(layout: int) {
@@ -138,23 +150,19 @@ GridLayout {
         delegate: KELUIQCG.Key {
             required property string modelData
 
-            Layout.columnSpan: type === KELUIQCG.KelGlobal.SpaceKey ? _keyboard.spaceKeyColumnSpan : 1
-            Layout.fillWidth: type === KELUIQCG.KelGlobal.SpaceKey
-            type: _keyboard.keyType(modelData)
-            layout: _keyboard.keyLayout(modelData)
-            text: _keyboard.keyText(modelData)
-            imagePath: _keyboard.keyImagePath(modelData)
-            backgroundColor: _keyboard.keyBackgroundColor
-            roundingRadius: _keyboard.keyRoundingRadius
-            // A grid remembers the first width and height that it sees; it follows implicit ones.
-            implicitWidth: _keyboard.keyWidth
-            implicitHeight: _keyboard.keyHeight
-            width: _keyboard.keyWidth
-            height: _keyboard.keyHeight
-            textColor: _keyboard.keyTextColor
             font: type === KELUIQCG.KelGlobal.DomainKey ? _keyboard.domainKeysFont
                   : type === KELUIQCG.KelGlobal.LayoutChangeKey ? _keyboard.controlKeysFont
                   : _keyboard.symbolKeysFont
+            textColor: _keyboard.keyTextColor
+            // A grid remembers the first width and height that it sees; it follows implicit ones.
+            implicitHeight: _keyboard.keyHeight
+            implicitWidth: _keyboard.keyWidth
+            roundingRadius: _keyboard.keyRoundingRadius
+            backgroundColor: _keyboard.keyBackgroundColor
+            imagePath: modelData.length === 1 ? "" : _keyboard.keyImagePath(modelData)
+            text: modelData.length === 1 && !_keyboard.capslockEnabled ? modelData : _keyboard.keyText(modelData)
+            layout: modelData.length === 1 ? -1 : _keyboard.keyLayout(modelData)
+            type: modelData.length === 1 ? KELUIQCG.KelGlobal.TextKey : _keyboard.keyType(modelData)
         }
     }
 
