@@ -110,6 +110,11 @@ GridLayout {
             }
         }
 
+        // Apart, because a function that calls into JavaScript's library is not compiled.
+        function upperCase(text: string): string {
+            return text.toUpperCase();
+        }
+
         // Deliberately works on what the keys show and ends their bindings: "A" becomes "a", whatever its
         // descriptor.
         function toggleCapslock() {
@@ -283,7 +288,7 @@ GridLayout {
         case "domain_ru":
             return ".ru";
         }
-        return capslockEnabled ? key.toUpperCase() : key;
+        return capslockEnabled ? _private.upperCase(key) : key;
     }
 
     /*! Image address of a descriptor's icon, empty for keys with a label. */
