@@ -114,21 +114,21 @@ Item {
 }
 )";
 
-//! As many cells as keys, without and with what is seen of a key.
+//! The same grid with as many cells as keys, without and with what is seen of a key.
 const QByteArray gridSource = R"(
-Grid {
+GridLayout {
     property list<string> labels
 
-    columns: 12; spacing: 6
+    columns: 12; rowSpacing: 6; columnSpacing: 6
 
     Repeater { model: parent.labels; delegate: CELL }
 }
 )";
-const QByteArray bareCell = "Item { width: 60; height: 60 }";
+const QByteArray bareCell = "Item { implicitWidth: 60; implicitHeight: 60 }";
 const QByteArray labelledCell = R"(
 Rectangle {
     required property string modelData
-    width: 60; height: 60; color: "#26303d"
+    implicitWidth: 60; implicitHeight: 60; color: "#26303d"
     Text { anchors.centerIn: parent; text: parent.modelData; color: "white"; font.pixelSize: 24 }
 }
 )";
@@ -310,7 +310,7 @@ void measureAgainstGrid(Table &table, const QString &what, double goal, const QB
         return;
     Switching ours;
     Scene scene;
-    const auto grid = scene.create(QByteArray(gridSource).replace("CELL", cell));
+    const auto grid = scene.create("import QtQuick.Layouts\n" + QByteArray(gridSource).replace("CELL", cell));
     const Property labels(grid.get(), "labels");
     const QVariant english = ours.keyboard().list("englishLabels");
     const QVariant russian = ours.keyboard().list("russianLabels");

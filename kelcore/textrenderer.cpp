@@ -234,8 +234,8 @@ struct TextRenderer::Picture
 };
 
 /*!
-    What is kept of shaped text. A screen has few fonts and shows the same short labels again and again, as the
-    keys of a keyboard do.
+    What is kept of shaped text. A screen has few fonts and shows the same short labels again and again, as
+   the keys of a keyboard do.
 */
 struct TextRenderer::Kept
 {
@@ -296,7 +296,8 @@ struct TextRenderer::Kept
             application = qApp;
             qAddPostRoutine([] { kept.clear(); });
             if (qGuiApp)
-                QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { kept.clear(); });
+                QObject::connect(
+                    qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { kept.clear(); });
         }
         return &kept;
     }

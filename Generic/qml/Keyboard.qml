@@ -123,8 +123,8 @@ GridLayout {
         }
 
         // Apart, because a function that calls into JavaScript's library is not compiled.
-        function upperCase(text: string): string {
-            return text.toUpperCase();
+        function cased(text: string): string {
+            return _keyboard.capslockEnabled ? text.toUpperCase() : text.toLowerCase();
         }
 
         // Deliberately works on what the keys show and ends their bindings: "A" becomes "a", whatever its
@@ -134,7 +134,7 @@ GridLayout {
             for (let i = 0; i < _repeater.count; ++i) {
                 const key = _repeater.itemAt(i) as KELUIQCG.Key;
                 if (key.type === KELUIQCG.KelGlobal.TextKey)
-                    key.text = _keyboard.capslockEnabled ? key.text.toUpperCase() : key.text.toLowerCase();
+                    key.text = cased(key.text);
                 else if (key.type === KELUIQCG.KelGlobal.CapslockKey)
                     key.imagePath = _keyboard.capslockEnabled ? _keyboard.capslockEnabledIconPath
                                                               : _keyboard.capslockDisabledIconPath;
@@ -296,7 +296,7 @@ GridLayout {
         case "domain_ru":
             return ".ru";
         }
-        return capslockEnabled ? _private.upperCase(key) : key;
+        return capslockEnabled ? _private.cased(key) : key;
     }
 
     /*! Image address of a descriptor's icon, empty for keys with a label. */
