@@ -36,15 +36,21 @@ QtObject {
     /*! To the next key of the row; from its end to its other end. */
     function moveAlongRow(step: int) {
         let next = null;
+        let nextAhead = 0;
         let last = currentKey;
+        let lastAhead = 0;
         for (const key of keys()) {
             if (key.y >= currentKey.y + currentKey.height || key.y + key.height <= currentKey.y)
                 continue;
             const ahead = (key.x - currentKey.x) * step;
-            if (ahead > 0 && (!next || ahead < (next.x - currentKey.x) * step))
+            if (ahead > 0 && (!next || ahead < nextAhead)) {
                 next = key;
-            if (ahead < (last.x - currentKey.x) * step)
+                nextAhead = ahead;
+            }
+            if (ahead < lastAhead) {
                 last = key;
+                lastAhead = ahead;
+            }
         }
         currentKey = next ?? last;
         column = -1;

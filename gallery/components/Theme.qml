@@ -60,7 +60,7 @@ QtObject {
 
     /*! Controls that are told no family take that of the platform, not that of the application. */
     function controlFont(pixelSize: int, weight: int): font {
-        return Qt.font({ family: Qt.application.font.family, pixelSize: pixelSize, weight: weight });
+        return Qt.font({ family: Application.font.family, pixelSize: pixelSize, weight: weight });
     }
 
     function icon(name: string): string {
