@@ -6,6 +6,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTextStream>
 #include <QtCore/QThread>
+#include <QtCore/QVariantAnimation>
 #include <QtGui/QImage>
 #include <QtGui/QKeyEvent>
 #include <QtQuick/QQuickItem>
@@ -13,12 +14,25 @@
 
 namespace {
 
-//! Time of animations and of timers in QML that stands still: no picture depends on when it was taken.
+//! Stops the time of animations and of timers in QML: no picture depends on when it was taken.
 class Standstill : public QAnimationDriver
 {
 public:
+    Standstill()
+    {
+        install();
+        // While nothing but timers is running, drivers are not asked.
+        m_animation.setStartValue(0);
+        m_animation.setEndValue(1);
+        m_animation.setLoopCount(-1);
+        m_animation.start();
+    }
+
     qint64 elapsed() const override { return 0; }
     void advance() override { }
+
+private:
+    QVariantAnimation m_animation;
 };
 
 bool isLoading(const QQuickItem &item)
@@ -76,8 +90,7 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
         errors << "kelui-gallery: cannot make the folder " << folder.path() << '\n';
         return false;
     }
-    Standstill standstill;
-    standstill.install();
+    const Standstill standstill;
     // No window system gives focus to a window that is not shown.
     window.contentItem()->setFocus(true);
     QStringList pages;

@@ -106,7 +106,7 @@ GalleryPage {
         y: 248
         width: 556
         height: 236
-        caption: qsTr("roundingRadius: 40, forceRounding: %1 — OK switches").arg(_first.forceRounding)
+        caption: qsTr("roundingRadius: 40, forceRounding: %1 — OK switches").arg(String(_first.forceRounding))
 
         onClicked: _first.forceRounding = !_first.forceRounding
 

@@ -87,7 +87,7 @@
     <name>ImageColorizerPage</name>
     <message>
         <source>opaque</source>
-        <translation>без прозрачности</translation>
+        <translation>сплошной</translation>
     </message>
     <message>
         <source>60 % alpha</source>
