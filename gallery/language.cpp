@@ -26,8 +26,7 @@ QString fileName(const QString &code)
 } // namespace
 
 Language::Language(QQmlEngine *engine)
-    : QObject()
-    , m_engine(engine)
+    : m_engine(engine)
 {
     load(codes().constFirst());
 }

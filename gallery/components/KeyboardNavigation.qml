@@ -35,6 +35,10 @@ QtObject {
 
     /*! To the next key of the row; from its end to its other end. */
     function moveAlongRow(step: int) {
+        if (!currentKey) {
+            focusKey(0);
+            return;
+        }
         let next = null;
         let nextAhead = 0;
         let last = currentKey;
@@ -58,6 +62,10 @@ QtObject {
 
     /*! To the next row; false, and no move, where there is none. */
     function moveAcrossRows(step: int): bool {
+        if (!currentKey) {
+            focusKey(0);
+            return true;
+        }
         const from = column >= 0 ? column : currentKey.x + currentKey.width / 2;
         let next = null;
         let nextAhead = 0;

@@ -189,6 +189,7 @@ QQuickItem *tst_search::keyOfType(int type) const
 void tst_search::walkTo(const QQuickItem *key)
 {
     constexpr int patience = 20;
+    QVERIFY(focused());
     for (int i = 0; i < patience && focused()->y() != key->y(); ++i)
         press(focused()->y() < key->y() ? Qt::Key_Down : Qt::Key_Up);
     for (int i = 0; i < patience && focused() != key; ++i)
