@@ -610,6 +610,65 @@ Item {
                 compare(field.cursorPosition, data.cursor);
         }
 
+        function test_masksAreEditedAsByKeys_data() {
+            const masks = [[_test.phoneMask, "123"], ["000.000;_", "123"], ["(999)", "123"], [">AAA<aaa!aa", "aBя"],
+                           ["XXXX", "a1-"], ["xxxx;_", "a1-"], ["NNnn;.", "aя1"], ["Hh-bB", "101"],
+                           ["\\A99", "123"], ["HH:HH:HH;_", "1aF"], ["99/99/0000;_", "123"]];
+            const rows = [];
+            for (const [mask, letters] of masks) {
+                for (const [name, steps] of [["forth", "123123123123123"], ["back", "1231232<<<<<<<<<12"],
+                                             ["to and fro", "12<3<1<<2312<3<<1"], ["left", "123ll12lll3l<l<2"],
+                                             ["fill a gap", "123123ll<3<<1l"]])
+                    rows.push({ tag: mask + " " + name, mask, letters, steps });
+            }
+            return rows;
+        }
+
+        // What a key types into the input, and where that leaves the cursor.
+        function test_masksAreEditedAsByKeys(data) {
+            const [field, byKeys] = [edit({ inputMask: data.mask }), edit({ inputMask: data.mask })];
+            field.cursorPosition = byKeys.cursorPosition = 0;
+            const look = item => [item.text, item.contentItem.displayText, item.cursorPosition];
+            Array.from(data.steps).forEach((step, index) => {
+                if (step === "<") {
+                    field.delCurrentSymbol();
+                    press(byKeys, Qt.Key_Backspace);
+                } else if (step === "l") {
+                    field.moveCursorToLeft();
+                    press(byKeys, Qt.Key_Left);
+                } else {
+                    const letter = data.letters[Number(step) - 1];
+                    field.addText(letter);
+                    press(byKeys, Qt.Key_A, letter);
+                }
+                compare(look(field), look(byKeys), index + " " + step);
+            });
+        }
+
+        // What does not fit is not typed, and does not move the cursor.
+        function test_masksIgnoreWhatDoesNotFit_data() {
+            return [
+                { tag: "start", mask: "999", add: "", wrong: "a" },
+                { tag: "digits", mask: "999", add: "1", wrong: "a- " },
+                { tag: "before a fixed part", mask: phoneMask, add: "912", wrong: "x" },
+                { tag: "blank", mask: "XXX", add: "a", wrong: " " },
+                { tag: "blank character", mask: "XXX;_", add: "a", wrong: "_" },
+                { tag: "full", mask: "AA", add: "ab", wrong: "c" },
+            ];
+        }
+
+        function test_masksIgnoreWhatDoesNotFit(data) {
+            const field = edit({ inputMask: data.mask });
+            field.cursorPosition = 0;
+            for (const letter of data.add)
+                field.addText(letter);
+            const before = state(field);
+            for (const letter of data.wrong) {
+                field.addText(letter);
+                compare(state(field), before, letter);
+            }
+        }
+
         function test_digits_data() {
             const letters = _test.letters;
             const { RussianLayout, SymbolsLayout } = KELUIQCG.KelGlobal;
@@ -772,6 +831,12 @@ Item {
             compare(press(field, Qt.Key_Down), false);
         }
 
+        function test_noFocusIsTakenByAClick() {
+            const field = create({ text: "abc" });
+            mouseClick(field, 20, 30);
+            compare([field.activeFocus, field.contentItem.activeFocus], [false, false]);
+        }
+
         function test_colonAndSlashAreNoDigits() {
             const field = edit({});
             press(field, Qt.Key_Colon, ":");
@@ -790,12 +855,15 @@ Item {
             }
         }
 
-        function test_hugeText() {
-            const half = "0123456789".repeat(5000);
-            const text = half + half;
-            const field = edit({ text });
+        function test_hugeTextFromTheStart() {
+            const field = edit({ text: "0123456789".repeat(10000) });
             compare(field.text.length, 100000);
             compare(field.cursorPosition, 100000);
+        }
+
+        function test_hugeText() {
+            const text = "0123456789".repeat(10000);
+            const field = edit({ text: "" });
             for (const at of [100000, 50000, 0]) {
                 field.text = "";
                 field.text = text;
@@ -851,47 +919,41 @@ Item {
             const alignment = { horizontalAlignment: data.horizontal, verticalAlignment: data.vertical };
             const draw = (width, height) => createTemporaryObject(_drawnComponent, _scene, Object.assign(
                 { width, height, font: Qt.font(data.font) }, alignment));
-            const shown = (field, text) => {
-                field.placeholderText = text;
-                field.text = "";
+            const shown = field => {
                 const placeholder = grabImage(field);
-                field.text = text;
+                field.text = field.placeholderText;
                 return [placeholder, grabImage(field)];
             };
             const differences = [];
-            const check = (field, name) => {
+            const check = (name, width, height, change) => {
                 for (const word of ["Поиск", "Agjpq", "חיפוש"]) {
-                    const [placeholder, typed] = shown(field, word);
+                    const field = draw(width, height);
+                    field.placeholderText = word;
+                    if (change)
+                        change(field);
+                    const [placeholder, typed] = shown(field);
                     if (!typed.equals(placeholder))
                         differences.push(name + " " + word);
+                    field.destroy();
                 }
             };
-            for (const [width, height] of [[300, 60], [301, 61], [260, 80], [300, 20], [301, 9]]) {
-                const field = draw(width, height);
-                check(field, [width, height, "created"].join());
-                field.destroy();
-            }
-            const field = draw(200, 40);
-            for (const [width, height] of [[281, 71], [282, 74], [283, 15]]) {
-                field.width = width;
-                field.height = height;
-                check(field, [width, height, "resized"].join());
-            }
-            field.height = 74;
-            field.leftPadding = 13;
-            field.rightPadding = 6;
-            field.topPadding = 9;
-            field.bottomPadding = 4;
-            check(field, "padding");
-            for (const pixelSize of [19, 32]) {
-                field.font.pixelSize = pixelSize;
-                check(field, "font " + pixelSize);
-            }
-            field.destroy();
+            for (const [width, height] of [[300, 60], [301, 61], [260, 80], [300, 20], [301, 9]])
+                check([width, height].join(), width, height);
+            for (const [width, height] of [[281, 71], [282, 74], [283, 15]])
+                check("resized " + [width, height], 200, 40, field => { field.width = width; field.height = height; });
+            check("padding", 300, 74, field => {
+                field.leftPadding = 13;
+                field.rightPadding = 6;
+                field.topPadding = 9;
+                field.bottomPadding = 4;
+            });
+            for (const pixelSize of [19, 32])
+                check("font " + pixelSize, 300, 60, field => { field.font.pixelSize = pixelSize; });
             // The placeholder shows its start where the text shows its end.
             for (const [width, height] of [[250, 60], [251, 23]]) {
                 const narrow = draw(width, height);
-                const [placeholder, typed] = shown(narrow, "Agjpq".repeat(9));
+                narrow.placeholderText = "Agjpq".repeat(9);
+                const [placeholder, typed] = shown(narrow);
                 verify(narrow.contentItem.contentWidth > width);
                 if (inkRows(placeholder, narrow) !== inkRows(typed, narrow))
                     differences.push("rows of narrow " + [width, height]);
