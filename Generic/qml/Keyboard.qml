@@ -72,9 +72,11 @@ GridLayout {
     rowSpacing: 6
     columnSpacing: 6
 
+    Component.onCompleted: _private.widenSpaceKeys()
+    onSpaceKeyColumnSpanChanged: _private.widenSpaceKeys()
     onTypeChanged: processTypeChanged()
     onLayoutChanged: processLayoutChanged()
-    // The list of the layout shown may be replaced as well.
+    // Lists come at creation, and the one shown may be replaced later.
     onNumericLayoutChanged: processLayoutChanged()
     onRussianLayoutChanged: processLayoutChanged()
     onRussianAndNumericLayoutChanged: processLayoutChanged()
@@ -87,24 +89,27 @@ GridLayout {
         id: _private
 
         readonly property string spaceKeyText: qsTranslate("KeyItem", "SPACE_KEY")
+        /*! The descriptors of the keys shown. */
+        property list<string> keys
 
         function show(keys: list<string>, rows: int, columns: int, spaceKeyColumnSpan: int) {
             _keyboard.rows = rows;
             _keyboard.columns = columns;
             _keyboard.spaceKeyColumnSpan = spaceKeyColumnSpan;
+            _private.keys = keys;
             _repeater.model = keys;
-            for (let i = 0; i < keys.length; ++i) {
-                if (keys[i] === "space")
-                    widenKey(i);
-            }
+            widenSpaceKeys();
         }
 
-        function widenKey(index: int) {
-            const key = _repeater.itemAt(index) as KELUIQCG.Key;
-            if (!key)
-                return;
-            key.Layout.columnSpan = _keyboard.spaceKeyColumnSpan;
-            key.Layout.fillWidth = true;
+        // Only these have a place of their own in the grid: an attached object for each key would cost more.
+        function widenSpaceKeys() {
+            for (let i = 0; i < keys.length; ++i) {
+                const key = keys[i] === "space" ? _repeater.itemAt(i) as KELUIQCG.Key : null;
+                if (key) {
+                    key.Layout.columnSpan = _keyboard.spaceKeyColumnSpan;
+                    key.Layout.fillWidth = true;
+                }
+            }
         }
 
         function changeLayout(layout: int) {
@@ -144,8 +149,6 @@ GridLayout {
 
     Repeater {
         id: _repeater
-
-        model: _keyboard.numericLayout
 
         delegate: KELUIQCG.Key {
             required property string modelData
