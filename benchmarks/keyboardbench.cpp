@@ -19,7 +19,6 @@ const QByteArray ourSource = R"(
 Item {
     id: root
 
-    property alias text: field.text
     readonly property string icons: "file://)" KELUI_ICON_DIR R"(/"
     readonly property list<string> english: K.KelGlobal.englishAndNumericLayout
     readonly property list<string> russian: K.KelGlobal.russianAndNumericLayout
@@ -28,6 +27,7 @@ Item {
     readonly property list<string> russianLabels: russian.map(key => keyboard.keyText(key))
 
     function activate(index: int) { keyboard.processKeyActivated(index); }
+    function clear() { field.text = ""; }
 
     K.LineEdit {
         id: field
@@ -62,7 +62,6 @@ Item {
     id: root
     width: 1280; height: 720
 
-    property alias text: field.text
     property Item letter
     readonly property bool isShown: panel.active && panel.keyboard.locale === "en_GB" && letter
 
@@ -77,6 +76,7 @@ Item {
         return null;
     }
     function takeLetter() { letter = findKey(panel.keyboard.keyboardLayoutLoader, "q"); }
+    function clear() { field.text = ""; }
     function switchLanguage() { panel.keyboard.changeInputLanguage(false); }
     function switchSymbols() { panel.keyboard.symbolMode = !panel.keyboard.symbolMode; }
     function toggleCapslock() {
@@ -114,21 +114,21 @@ Item {
 }
 )";
 
-//! As many cells as keys, without and with what is seen of a key.
+//! The same grid with as many cells as keys, without and with what is seen of a key.
 const QByteArray gridSource = R"(
-Grid {
+GridLayout {
     property list<string> labels
 
-    columns: 12; spacing: 6
+    columns: 12; rowSpacing: 6; columnSpacing: 6
 
     Repeater { model: parent.labels; delegate: CELL }
 }
 )";
-const QByteArray bareCell = "Item { width: 60; height: 60 }";
+const QByteArray bareCell = "Item { implicitWidth: 60; implicitHeight: 60 }";
 const QByteArray labelledCell = R"(
 Rectangle {
     required property string modelData
-    width: 60; height: 60; color: "#26303d"
+    implicitWidth: 60; implicitHeight: 60; color: "#26303d"
     Text { anchors.centerIn: parent; text: parent.modelData; color: "white"; font.pixelSize: 24 }
 }
 )";
@@ -170,12 +170,11 @@ public:
         finishFrame(m_scene);
     }
 
-    void clear() { m_text.write(QString()); }
+    void clear() { call(m_item.get(), "clear"); }
 
 private:
     Scene m_scene;
     std::unique_ptr<QQuickItem> m_item = m_scene.create(ourSource);
-    Property m_text{m_item.get(), "text"};
 };
 
 //! Qt Virtual Keyboard with a focused field. An application can have one.
@@ -208,7 +207,7 @@ public:
         };
     }
 
-    void clear() { m_text->write(QString()); }
+    void clear() { call(m_item.get(), "clear"); }
 
 private:
     bool show()
@@ -216,7 +215,6 @@ private:
         if (!m_scene.canImport("QtQuick.VirtualKeyboard"))
             return false;
         m_item = m_scene.create(theirSource);
-        m_text.emplace(m_item.get(), "text");
         m_scene.activate();
         const Property isShown(m_item.get(), "isShown");
         const QDeadlineTimer deadline(std::chrono::seconds(10));
@@ -228,7 +226,6 @@ private:
 
     Scene m_scene;
     std::unique_ptr<QQuickItem> m_item;
-    std::optional<Property> m_text;
     std::optional<bool> m_isShown;
 };
 
@@ -313,7 +310,7 @@ void measureAgainstGrid(Table &table, const QString &what, double goal, const QB
         return;
     Switching ours;
     Scene scene;
-    const auto grid = scene.create(QByteArray(gridSource).replace("CELL", cell));
+    const auto grid = scene.create("import QtQuick.Layouts\n" + QByteArray(gridSource).replace("CELL", cell));
     const Property labels(grid.get(), "labels");
     const QVariant english = ours.keyboard().list("englishLabels");
     const QVariant russian = ours.keyboard().list("russianLabels");

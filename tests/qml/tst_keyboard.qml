@@ -460,6 +460,20 @@ Rectangle {
             }
         }
 
+        function test_placementOfWhatIsDeclared_data() {
+            return [
+                { tag: "numeric", type: numeric, layout: digits },
+                { tag: "alphabetic", type: alphabetic, layout: russian },
+                { tag: "alphanumeric", type: alphanumeric, layout: english },
+            ];
+        }
+
+        // The type comes before there are keys.
+        function test_placementOfWhatIsDeclared(data) {
+            const isShown = screen => screen.type === data.type && screen.layout === data.layout;
+            comparePlacement(create({ type: data.type }), screens.find(isShown));
+        }
+
         function test_keySizeIsFollowed_data() {
             return screens;
         }
