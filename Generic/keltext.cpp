@@ -72,15 +72,25 @@ public:
         // The node is asked to paint even where a clip leaves nothing of it.
         if (!clip || clip->isEmpty())
             return;
-        painter->setClipRegion(*clip, Qt::ReplaceClip);
         // The window of the painter tells the renderer the item's area; what it was before goes into the
         // matrix.
-        painter->setTransform(matrix()->toTransform() * viewTransform(*painter));
+        const QTransform transform = matrix()->toTransform() * viewTransform(*painter);
+        painter->setClipRegion(*clip, Qt::ReplaceClip);
+        painter->setTransform(transform);
         painter->setViewport(m_area);
         painter->setWindow(m_area);
         painter->setOpacity(inheritedOpacity());
-        painter->setClipRect(m_area, Qt::IntersectClip);
+        painter->setClipRect(clipArea(transform), Qt::IntersectClip);
         paintText(*painter, m_renderer, m_color);
+    }
+
+    //! The area, with all of the pixels that it touches: painters round a clip that stands between pixels.
+    QRect clipArea(const QTransform &transform) const
+    {
+        if (transform.type() > QTransform::TxTranslate)
+            return m_area;
+        const QRect shown = transform.mapRect(QRectF(m_area)).toAlignedRect();
+        return shown.translated(-qRound(transform.dx()), -qRound(transform.dy()));
     }
 
     RenderingFlags flags() const override { return BoundedRectRendering; }

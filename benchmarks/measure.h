@@ -45,3 +45,4 @@ double heapInUse();
 
 void measureText(Table &table);
 void measureColorizer(Table &table);
+void measureKeyboard(Table &table);

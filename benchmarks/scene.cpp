@@ -12,7 +12,6 @@ Scene::Scene(const QSize &size)
     m_window.setGeometry(QRect({}, size));
     m_window.contentItem()->setSize(size);
     m_window.setRenderTarget(QQuickRenderTarget::fromPaintDevice(&m_image));
-    m_control.initialize();
 }
 
 Scene::~Scene() = default;
@@ -31,10 +30,21 @@ std::unique_ptr<QQuickItem> Scene::create(const QByteArray &source)
 void Scene::renderFrame()
 {
     m_control.polishItems();
-    m_control.beginFrame();
     m_control.sync();
     m_control.render();
-    m_control.endFrame();
+}
+
+bool Scene::canImport(const QByteArray &module)
+{
+    QQmlComponent component(&m_engine);
+    component.setData("import QtQml\nimport " + module + "\nQtObject {}", QUrl());
+    return component.isReady();
+}
+
+void Scene::activate()
+{
+    m_window.show();
+    m_window.requestActivate();
 }
 
 Property::Property(QObject *object, const char *name)

@@ -21,6 +21,11 @@ public:
     std::unique_ptr<QQuickItem> create(const QByteArray &source);
     void renderFrame();
 
+    //! Whether QML source can import a module of this name.
+    bool canImport(const QByteArray &module);
+    //! Gives the window the input focus, and with it the item that has it in the scene.
+    void activate();
+
 private:
     QQmlEngine m_engine;
     QImage m_image;

@@ -11,50 +11,63 @@ Window {
 
     /*! Whether changes of state are animated. */
     property bool isAnimated: true
+    /*! The code of the language to begin with, and of pictures that ask for no other. */
+    property string language: Language.code
 
     property int currentIndex: -1
     property bool isInMenu: true
+    /*! Whether the menu is on the line below the pages. */
+    property bool isOnLanguage: false
     readonly property GalleryPage currentPage: _loader.item as GalleryPage
 
     readonly property list<PageEntry> pages: [
         PageEntry {
-            title: "Text"
+            name: "Text"
             icon: "text"
 
             TextPage {}
         },
         PageEntry {
-            title: "Button"
+            name: "Button"
             icon: "button"
 
             ButtonPage {}
         },
         PageEntry {
-            title: "Icon"
+            name: "Icon"
             icon: "icons"
 
             IconPage {}
         },
         PageEntry {
-            title: "ImageColorizer"
+            name: "ImageColorizer"
             icon: "palette"
 
             ImageColorizerPage {}
         },
         PageEntry {
-            title: "Images"
+            name: "Images"
+            title: qsTr("Images")
             icon: "picture"
 
             ImagePage {}
         },
         PageEntry {
-            title: "Rectangle"
+            name: "Rectangle"
             icon: "box"
 
             RectanglePage {}
         },
         PageEntry {
-            title: "Vocabulary"
+            name: "Search"
+            title: qsTr("Search")
+            icon: "search"
+
+            SearchPage {}
+        },
+        PageEntry {
+            name: "Vocabulary"
+            title: qsTr("Vocabulary")
             icon: "book"
 
             VocabularyPage {}
@@ -66,29 +79,33 @@ Window {
     color: Theme.background
     title: "Kelui"
 
-    Component.onCompleted: Theme.isAnimated = isAnimated
+    Component.onCompleted: {
+        Theme.isAnimated = isAnimated;
+        Language.code = language;
+    }
 
     /*! Opens a page afresh; focus stays in the menu. */
     function openPage(index: int) {
         isInMenu = true;
+        isOnLanguage = false;
         currentIndex = -1;
         currentIndex = index;
     }
 
-    /*! The number of a page by its title in any case, or by its digit; -1 for none. */
+    /*! The number of a page by its name in any case, or by its digit; -1 for none. */
     function pageIndex(name: string): int {
         for (let i = 0; i < pages.length; ++i) {
-            if (pages[i].title.toLowerCase() === name.toLowerCase() || String(i + 1) === name)
+            if (pages[i].name.toLowerCase() === name.toLowerCase() || String(i + 1) === name)
                 return i;
         }
         return -1;
     }
 
-    function pageTitles(): list<string> {
-        const titles = [];
+    function pageNames(): list<string> {
+        const names = [];
         for (const entry of pages)
-            titles.push(entry.title);
-        return titles;
+            names.push(entry.name);
+        return names;
     }
 
     function shotNames(): list<string> {
@@ -98,9 +115,18 @@ Window {
         return names;
     }
 
-    function takeShot(index: int) {
-        currentPage.shots[index].taken();
+    /*! Puts the page into the state of a picture; the digits to press then. */
+    function takeShot(index: int): string {
+        const shot = currentPage.shots[index];
+        Language.code = shot.language || language;
+        shot.taken();
         isInMenu = currentPage.focusedStop === null;
+        return shot.digits;
+    }
+
+    function nextLanguage() {
+        const codes = Language.codes;
+        Language.code = codes[(codes.indexOf(Language.code) + 1) % codes.length];
     }
 
     function enterPage(): bool {
@@ -118,16 +144,28 @@ Window {
     function handleMenuKey(key: int): bool {
         switch (key) {
         case Qt.Key_Up:
-            currentIndex = Math.max(0, currentIndex - 1);
+            if (isOnLanguage)
+                isOnLanguage = false;
+            else
+                currentIndex = Math.max(0, currentIndex - 1);
             return true;
         case Qt.Key_Down:
-            currentIndex = Math.min(pages.length - 1, currentIndex + 1);
+            if (currentIndex < pages.length - 1)
+                ++currentIndex;
+            else
+                isOnLanguage = _language.visible;
             return true;
         case Qt.Key_Right:
+            if (!isOnLanguage)
+                enterPage();
+            return true;
         case Qt.Key_Return:
         case Qt.Key_Enter:
         case Qt.Key_Select:
-            enterPage();
+            if (isOnLanguage)
+                nextLanguage();
+            else
+                enterPage();
             return true;
         case Qt.Key_Escape:
         case Qt.Key_Backspace:
@@ -141,6 +179,8 @@ Window {
     function handlePageKey(key: int, text: string): bool {
         if (currentPage.handleKey(key, text))
             return true;
+        if (currentPage.keyTarget)
+            return false;
         switch (key) {
         case Qt.Key_Left:
         case Qt.Key_Escape:
@@ -174,9 +214,16 @@ Window {
         scale: Math.min(_window.width / width, _window.height / height)
         focus: true
 
-        Keys.onPressed: event => {
-            event.accepted = _window.isInMenu ? _window.handleMenuKey(event.key)
-                                              : _window.handlePageKey(event.key, event.text);
+        // What the menu and the page leave is for the field being edited.
+        Keys.forwardTo: [_keys, _window.currentPage?.keyTarget ?? null]
+
+        Item {
+            id: _keys
+
+            Keys.onPressed: event => {
+                event.accepted = _window.isInMenu ? _window.handleMenuKey(event.key)
+                                                  : _window.handlePageKey(event.key, event.text);
+            }
         }
 
         Generic.Rectangle {
@@ -234,16 +281,28 @@ Window {
 
                         titleText: modelData.title
                         leftIconSource: Theme.icon(modelData.icon)
-                        focused: isCurrent && _window.isInMenu
-                        checked: isCurrent && !_window.isInMenu
+                        focused: isCurrent && _window.isInMenu && !_window.isOnLanguage
+                        checked: isCurrent && !focused
                     }
                 }
             }
         }
 
+        MenuButton {
+            id: _language
+
+            x: _scene.menuX
+            y: 641
+            visible: Language.codes.length > 1
+            //: The name of the language of this translation, in itself.
+            titleText: qsTr("English")
+            leftIconSource: Theme.icon("globe")
+            focused: _window.isOnLanguage
+        }
+
         Label {
             x: _scene.pageX
-            y: 34
+            y: 40
             width: 840
             maximumLineCount: 1
             font: Theme.display
@@ -252,15 +311,8 @@ Window {
 
         Caption {
             x: _scene.pageX
-            y: 86
+            y: 96
             text: _window.currentPage?.caption ?? ""
-        }
-
-        Caption {
-            x: _scene.pageX
-            y: 110
-            color: Theme.disabledText
-            text: _window.currentPage?.captionRussian ?? ""
         }
 
         Loader {
@@ -288,19 +340,20 @@ Window {
 
             Hint {
                 key: "← ↑ ↓ →"
-                meaning: "move · ход"
+                meaning: qsTr("move")
             }
             Hint {
                 key: "OK"
-                meaning: _window.isInMenu ? "open · открыть" : "press · нажать"
+                meaning: _window.isInMenu && !_window.isOnLanguage ? qsTr("open") : qsTr("press")
             }
             Hint {
-                key: "Back"
-                meaning: _window.isInMenu ? "quit · выход" : "menu · меню"
+                key: qsTr("Back")
+                meaning: _window.isInMenu ? qsTr("quit")
+                         : _window.currentPage?.keyTarget ? qsTr("fields") : qsTr("menu")
             }
             Hint {
-                key: "1–" + Math.min(9, _window.pages.length)
-                meaning: "page · раздел"
+                key: _window.currentPage?.keyTarget ? "0–9" : "1–" + Math.min(9, _window.pages.length)
+                meaning: _window.currentPage?.keyTarget ? qsTr("type") : qsTr("page")
             }
         }
     }

@@ -12,6 +12,7 @@
 
 #include <cstring>
 
+#include "language.h"
 #include "shots.h"
 
 namespace {
@@ -94,16 +95,23 @@ int main(int argc, char **argv)
         QStringLiteral("Size of the window or of the pictures."), QStringLiteral("WxH"),
         QStringLiteral("1280x720"));
     const QCommandLineOption pageOption(QStringLiteral("page"),
-        QStringLiteral("Open a page by its title or number."), QStringLiteral("NAME"), QStringLiteral("1"));
+        QStringLiteral("Open a page by its name or number."), QStringLiteral("NAME"), QStringLiteral("1"));
     const QCommandLineOption importOption(QStringLiteral("import"),
         QStringLiteral("Look for the module in DIR instead of the folder that it was built into."),
         QStringLiteral("DIR"));
-    parser.addOptions({shotsOption, sizeOption, pageOption, importOption});
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+        QStringLiteral("Speak 'en' or 'ru' instead of the system's language; pictures are in English."),
+        QStringLiteral("CODE"), isTakingShots ? QStringLiteral("en") : Language::systemCode());
+    parser.addOptions({shotsOption, sizeOption, pageOption, importOption, languageOption});
     parser.process(application);
 
     const QSize size = toSize(parser.value(sizeOption));
     if (size.isEmpty())
         return fail(QStringLiteral("'%1' is not a size such as 1920x1080").arg(parser.value(sizeOption)));
+    const QString language = parser.value(languageOption);
+    if (!Language::codes().contains(language))
+        return fail(QStringLiteral("does not speak '%1', but: %2")
+                .arg(language, Language::codes().join(QStringLiteral(", "))));
     if (!useBundledFont())
         return fail(QStringLiteral("cannot load its fonts"));
 
@@ -120,8 +128,9 @@ int main(int argc, char **argv)
     engine.setOutputWarningsToStandardError(false);
     const auto collecting = QObject::connect(&engine, &QQmlEngine::warnings, &engine,
         [&errors](const QList<QQmlError> &warnings) { errors += warnings; });
-    engine.setInitialProperties({{QStringLiteral("isAnimated"), !isTakingShots},
-        {QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}});
+    engine.setInitialProperties(
+        {{QStringLiteral("isAnimated"), !isTakingShots}, {QStringLiteral("language"), language},
+            {QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}});
     engine.loadFromModule("Kelui.Gallery", "Main");
     auto *window = engine.rootObjects().isEmpty()
         ? nullptr
@@ -137,10 +146,10 @@ int main(int argc, char **argv)
     int page = -1;
     QMetaObject::invokeMethod(window, "pageIndex", qReturnArg(page), parser.value(pageOption));
     if (page < 0) {
-        QStringList titles;
-        QMetaObject::invokeMethod(window, "pageTitles", qReturnArg(titles));
+        QStringList names;
+        QMetaObject::invokeMethod(window, "pageNames", qReturnArg(names));
         return fail(QStringLiteral("has no page '%1'; there are: %2")
-                .arg(parser.value(pageOption), titles.join(QStringLiteral(", "))));
+                .arg(parser.value(pageOption), names.join(QStringLiteral(", "))));
     }
     QMetaObject::invokeMethod(window, "openPage", page);
     window->show();

@@ -1,15 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "shots.h"
 
+#include <QtCore/QAnimationDriver>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTextStream>
 #include <QtCore/QThread>
+#include <QtCore/QVariantAnimation>
 #include <QtGui/QImage>
+#include <QtGui/QKeyEvent>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
 namespace {
+
+//! Stops the time of animations and of timers in QML: no picture depends on when it was taken.
+class Standstill : public QAnimationDriver
+{
+public:
+    Standstill()
+    {
+        install();
+        // While nothing but timers is running, drivers are not asked.
+        m_animation.setStartValue(0);
+        m_animation.setEndValue(1);
+        m_animation.setLoopCount(-1);
+        m_animation.start();
+    }
+
+    qint64 elapsed() const override { return 0; }
+    void advance() override { }
+
+private:
+    QVariantAnimation m_animation;
+};
 
 bool isLoading(const QQuickItem &item)
 {
@@ -42,7 +66,12 @@ bool takeShot(QQuickWindow &window, int page, int shot, const QString &path)
 {
     QMetaObject::invokeMethod(&window, "openPage", page);
     settle(window);
-    QMetaObject::invokeMethod(&window, "takeShot", shot);
+    QString digits;
+    QMetaObject::invokeMethod(&window, "takeShot", qReturnArg(digits), shot);
+    for (const QChar digit : std::as_const(digits)) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_0 + digit.digitValue(), Qt::NoModifier, digit);
+        QCoreApplication::sendEvent(&window, &press);
+    }
     settle(window);
     // What the first frame changes, such as the size of a text, is in the second.
     window.grabWindow();
@@ -61,13 +90,16 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
         errors << "kelui-gallery: cannot make the folder " << folder.path() << '\n';
         return false;
     }
-    QStringList titles;
-    QMetaObject::invokeMethod(&window, "pageTitles", qReturnArg(titles));
-    for (int page = 0; page < titles.size(); ++page) {
+    const Standstill standstill;
+    // No window system gives focus to a window that is not shown.
+    window.contentItem()->setFocus(true);
+    QStringList pages;
+    QMetaObject::invokeMethod(&window, "pageNames", qReturnArg(pages));
+    for (int page = 0; page < pages.size(); ++page) {
         QMetaObject::invokeMethod(&window, "openPage", page);
         settle(window);
         if (!window.property("currentPage").value<QQuickItem *>()) {
-            errors << "kelui-gallery: cannot show the page " << titles.at(page) << '\n';
+            errors << "kelui-gallery: cannot show the page " << pages.at(page) << '\n';
             return false;
         }
         QStringList names;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "kelcore/textrenderer.h"
 
-#include <QtCore/QCoreApplication>
+#include <QtCore/QCache>
 #include <QtCore/QHash>
+#include <QtCore/QPointer>
 #include <QtCore/QThread>
 #include <QtGui/QGlyphRun>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QRawFont>
 #include <QtGui/QTextLayout>
@@ -89,31 +91,6 @@ struct Ellipsis
         ascent = line.ascent();
     }
 };
-
-QHash<QFont, Ellipsis> &ellipses()
-{
-    static QHash<QFont, Ellipsis> hash;
-    return hash;
-}
-
-//! Few fonts are in use at a time, so that shaping "…" once for each is enough.
-Ellipsis ellipsisOf(const QFont &font)
-{
-    // The glyphs belong to a thread; only that of the application keeps them.
-    if (!qApp || qApp->thread() != QThread::currentThread())
-        return Ellipsis(font);
-    auto &known = ellipses();
-    auto found = known.find(font);
-    if (found == known.end()) {
-        constexpr qsizetype enough = 32;
-        if (known.isEmpty())
-            qAddPostRoutine([] { ellipses().clear(); });
-        else if (known.size() >= enough)
-            known.clear();
-        found = known.insert(font, Ellipsis(font));
-    }
-    return *found;
-}
 
 //! A paragraph, or the next lines of one, shaped as far as it has been needed.
 struct Paragraph
@@ -257,6 +234,103 @@ struct TextRenderer::Picture
 };
 
 /*!
+    What is kept of shaped text. A screen has few fonts and shows the same short labels again and again, as
+   the keys of a keyboard do.
+*/
+struct TextRenderer::Kept
+{
+    //! What the lines of a label and their places depend on.
+    struct Key
+    {
+        QString text;
+        QFont font;
+        int width;
+        int maxLines;
+        Qt::Alignment alignment;
+
+        Key(const QString &text, const QFont &font, const Fit &fit)
+            : text(text)
+            , font(font)
+            , width(fit.width)
+            , maxLines(fit.maxLines)
+            , alignment(fit.alignment)
+        {
+        }
+
+        bool operator==(const Key &other) const = default;
+
+        friend size_t qHash(const Key &key, size_t seed) noexcept
+        {
+            return qHashMulti(seed, key.text, key.font, key.width, key.maxLines, key.alignment.toInt());
+        }
+    };
+
+    struct Label
+    {
+        Fit fit;
+        std::shared_ptr<const Picture> picture;
+    };
+
+    static constexpr qsizetype maximumFonts = 32;
+    static constexpr qsizetype maximumLabels = 512;
+    //! Characters.
+    static constexpr qsizetype longestLabel = 32;
+
+    QHash<QFont, Ellipsis> ellipses;
+    QCache<Key, Label> labels{maximumLabels};
+
+    void clear()
+    {
+        ellipses.clear();
+        labels.clear();
+    }
+
+    //! Null where nothing is kept: glyphs belong to a thread, and only that of the application keeps them.
+    static Kept *instance()
+    {
+        static Kept kept;
+        static QPointer<QCoreApplication> application;
+        if (!qApp || qApp->thread() != QThread::currentThread())
+            return nullptr;
+        if (application != qApp) {
+            application = qApp;
+            qAddPostRoutine([] { kept.clear(); });
+            if (qGuiApp)
+                QObject::connect(
+                    qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { kept.clear(); });
+        }
+        return &kept;
+    }
+
+    static Ellipsis ellipsisOf(const QFont &font)
+    {
+        Kept *kept = instance();
+        if (!kept)
+            return Ellipsis(font);
+        auto found = kept->ellipses.find(font);
+        if (found == kept->ellipses.end()) {
+            if (kept->ellipses.size() >= maximumFonts)
+                kept->ellipses.clear();
+            found = kept->ellipses.insert(font, Ellipsis(font));
+        }
+        return *found;
+    }
+
+    static const Label *find(const Key &key)
+    {
+        Kept *kept = key.text.size() <= longestLabel ? instance() : nullptr;
+        return kept ? kept->labels.object(key) : nullptr;
+    }
+
+    static void keep(const Key &key, const Label &label)
+    {
+        Kept *kept = key.text.size() <= longestLabel ? instance() : nullptr;
+        if (kept)
+            kept->labels.insert(key, new Label(label));
+    }
+};
+
+/*!
     The text shaped and broken into lines. Shaping is what costs; it is done once for a text and font, of no
     more characters than are shown, and serves every width, line limit and alignment.
 */
@@ -301,6 +375,9 @@ struct TextRenderer::Layout
     }
 
     bool isBroken() const { return !lines.empty(); }
+
+    const QString text;
+    const QFont font;
 
 private:
     bool hasLimit() const { return width < maximumExtent; }
@@ -402,7 +479,7 @@ private:
     //! Makes room for "…" at the end of the line. Too narrow a line keeps a letter, which is not shown then.
     void cutLine(Paragraph &paragraph, QTextLine &line)
     {
-        cut.emplace(ellipsisOf(font));
+        cut.emplace(Kept::ellipsisOf(font));
         setOption(paragraph, QTextOption::WrapAnywhere);
         line.setLineWidth(std::max<qreal>(0, width - cut->width));
     }
@@ -520,8 +597,6 @@ private:
         return isRight ? std::floor(std::min(slack, area - line.extent - room)) : 0;
     }
 
-    QString text;
-    QFont font;
     int width = 0;
     int maxLines = 0;
     Qt::Alignment alignment;
@@ -633,13 +708,18 @@ void TextRenderer::relayout()
     fit.availableHeight = m_availableHeight;
     const bool isSame = m_isShaped && m_fit.hasSameLines(fit);
     if (!isSame || !m_fit.hasSamePlaces(fit)) {
-        if (!m_isShaped || !m_layout)
-            m_layout = std::make_unique<Layout>(m_text, m_font);
-        if (isSame && m_layout->isBroken())
+        const bool isLaidOut = m_isShaped && m_layout;
+        const Kept::Label *known = isLaidOut ? nullptr : Kept::find({m_text, m_font, fit});
+        if (!isLaidOut)
+            m_layout = known ? nullptr : std::make_unique<Layout>(m_text, m_font);
+        if (known)
+            fit = known->fit;
+        else if (isSame && m_layout->isBroken())
             m_layout->place(fit);
         else
             m_layout->breakLines(fit);
-        m_picture.reset();
+        fit.availableHeight = m_availableHeight;
+        m_picture = known ? known->picture : nullptr;
     }
     m_isShaped = true;
     m_fit = fit;
@@ -669,6 +749,7 @@ void TextRenderer::makePicture() const
     if (m_picture || !m_layout)
         return;
     m_picture = m_layout->picture();
+    Kept::keep({m_layout->text, m_layout->font, m_fit}, {m_fit, m_picture});
     // What is shown seldom changes its lines afterwards; shaping it again then costs less than keeping it.
     m_layout.reset();
 }

@@ -98,6 +98,7 @@ public:
     void draw(QPainter &painter) const;
 
 private:
+    struct Kept;
     struct Layout;
     struct Picture;
 

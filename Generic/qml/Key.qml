@@ -23,14 +23,20 @@ QQT.Control {
     /*! Image address of the icon; an empty one is not seen. */
     property string imagePath: ""
 
+    hoverEnabled: false
+
     background: KELUIQCG.Rectangle {
+        id: _background
+
         roundingRadius: _key.roundingRadius
         color: _key.backgroundColor
     }
 
     contentItem: Item {
+        id: _contentItem
+
         KELUIQCG.Text {
-            anchors.centerIn: parent
+            anchors.centerIn: _contentItem
             maximumLineCount: 1
             font: _key.font
             color: _key.textColor
@@ -38,7 +44,7 @@ QQT.Control {
         }
 
         Image {
-            anchors.centerIn: parent
+            anchors.centerIn: _contentItem
             source: _key.imagePath
         }
     }

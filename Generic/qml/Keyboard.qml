@@ -72,9 +72,11 @@ GridLayout {
     rowSpacing: 6
     columnSpacing: 6
 
+    Component.onCompleted: _private.widenSpaceKeys()
+    onSpaceKeyColumnSpanChanged: _private.widenSpaceKeys()
     onTypeChanged: processTypeChanged()
     onLayoutChanged: processLayoutChanged()
-    // The list of the layout shown may be replaced as well.
+    // Lists come at creation, and the one shown may be replaced later.
     onNumericLayoutChanged: processLayoutChanged()
     onRussianLayoutChanged: processLayoutChanged()
     onRussianAndNumericLayoutChanged: processLayoutChanged()
@@ -87,12 +89,27 @@ GridLayout {
         id: _private
 
         readonly property string spaceKeyText: qsTranslate("KeyItem", "SPACE_KEY")
+        /*! The descriptors of the keys shown. */
+        property list<string> keys
 
         function show(keys: list<string>, rows: int, columns: int, spaceKeyColumnSpan: int) {
             _keyboard.rows = rows;
             _keyboard.columns = columns;
             _keyboard.spaceKeyColumnSpan = spaceKeyColumnSpan;
+            _private.keys = keys;
             _repeater.model = keys;
+            widenSpaceKeys();
+        }
+
+        // Only these have a place of their own in the grid: an attached object for each key would cost more.
+        function widenSpaceKeys() {
+            for (let i = 0; i < keys.length; ++i) {
+                const key = keys[i] === "space" ? _repeater.itemAt(i) as KELUIQCG.Key : null;
+                if (key) {
+                    key.Layout.columnSpan = _keyboard.spaceKeyColumnSpan;
+                    key.Layout.fillWidth = true;
+                }
+            }
         }
 
         function changeLayout(layout: int) {
@@ -111,8 +128,8 @@ GridLayout {
         }
 
         // Apart, because a function that calls into JavaScript's library is not compiled.
-        function upperCase(text: string): string {
-            return text.toUpperCase();
+        function cased(text: string): string {
+            return _keyboard.capslockEnabled ? text.toUpperCase() : text.toLowerCase();
         }
 
         // Deliberately works on what the keys show and ends their bindings: "A" becomes "a", whatever its
@@ -122,7 +139,7 @@ GridLayout {
             for (let i = 0; i < _repeater.count; ++i) {
                 const key = _repeater.itemAt(i) as KELUIQCG.Key;
                 if (key.type === KELUIQCG.KelGlobal.TextKey)
-                    key.text = _keyboard.capslockEnabled ? key.text.toUpperCase() : key.text.toLowerCase();
+                    key.text = cased(key.text);
                 else if (key.type === KELUIQCG.KelGlobal.CapslockKey)
                     key.imagePath = _keyboard.capslockEnabled ? _keyboard.capslockEnabledIconPath
                                                               : _keyboard.capslockDisabledIconPath;
@@ -133,28 +150,22 @@ GridLayout {
     Repeater {
         id: _repeater
 
-        model: _keyboard.numericLayout
-
         delegate: KELUIQCG.Key {
             required property string modelData
 
-            Layout.columnSpan: type === KELUIQCG.KelGlobal.SpaceKey ? _keyboard.spaceKeyColumnSpan : 1
-            Layout.fillWidth: type === KELUIQCG.KelGlobal.SpaceKey
-            type: _keyboard.keyType(modelData)
-            layout: _keyboard.keyLayout(modelData)
-            text: _keyboard.keyText(modelData)
-            imagePath: _keyboard.keyImagePath(modelData)
-            backgroundColor: _keyboard.keyBackgroundColor
-            roundingRadius: _keyboard.keyRoundingRadius
-            // A grid remembers the first width and height that it sees; it follows implicit ones.
-            implicitWidth: _keyboard.keyWidth
-            implicitHeight: _keyboard.keyHeight
-            width: _keyboard.keyWidth
-            height: _keyboard.keyHeight
-            textColor: _keyboard.keyTextColor
             font: type === KELUIQCG.KelGlobal.DomainKey ? _keyboard.domainKeysFont
                   : type === KELUIQCG.KelGlobal.LayoutChangeKey ? _keyboard.controlKeysFont
                   : _keyboard.symbolKeysFont
+            textColor: _keyboard.keyTextColor
+            // A grid remembers the first width and height that it sees; it follows implicit ones.
+            implicitHeight: _keyboard.keyHeight
+            implicitWidth: _keyboard.keyWidth
+            roundingRadius: _keyboard.keyRoundingRadius
+            backgroundColor: _keyboard.keyBackgroundColor
+            imagePath: modelData.length === 1 ? "" : _keyboard.keyImagePath(modelData)
+            text: modelData.length === 1 && !_keyboard.capslockEnabled ? modelData : _keyboard.keyText(modelData)
+            layout: modelData.length === 1 ? -1 : _keyboard.keyLayout(modelData)
+            type: modelData.length === 1 ? KELUIQCG.KelGlobal.TextKey : _keyboard.keyType(modelData)
         }
     }
 
@@ -288,7 +299,7 @@ GridLayout {
         case "domain_ru":
             return ".ru";
         }
-        return capslockEnabled ? _private.upperCase(key) : key;
+        return capslockEnabled ? _private.cased(key) : key;
     }
 
     /*! Image address of a descriptor's icon, empty for keys with a label. */

@@ -90,7 +90,7 @@ QQT.Control {
         clip: true
         activeFocusOnPress: false
         // Enough for any line, and for nobody to wait.
-        maximumLength: 1 << 20
+        maximumLength: 1048576
         horizontalAlignment: _lineEdit.horizontalAlignment
         verticalAlignment: _lineEdit.verticalAlignment
         font: _lineEdit.font
@@ -152,14 +152,20 @@ QQT.Control {
                 event.accepted = true;
         }
 
+        // On the line, and from the point, where typed text will stand; where that is, the input tells only of
+        // text that it has.
         KELUIQCG.Text {
             id: _placeholder
 
+            readonly property real slack: Math.max(0, _input.width - _placeholderMetrics.advanceWidth)
+
+            x: _input.effectiveHorizontalAlignment === TextInput.AlignRight ? slack
+               : _input.effectiveHorizontalAlignment === TextInput.AlignHCenter ? slack / 2 : 0
             y: _input.cursorRectangle.y
             width: _input.width
             textWidth: _input.width
+            horizontalAlignment: Qt.AlignLeft | Qt.AlignAbsolute
             maximumLineCount: 1
-            horizontalAlignment: _input.effectiveHorizontalAlignment | Qt.AlignAbsolute
             visible: _input.text === ""
             font: _lineEdit.font
             color: _lineEdit.stateColor(_lineEdit.placeholderTextColors)
@@ -170,6 +176,13 @@ QQT.Control {
                 maximumLineCount = 2;
                 maximumLineCount = 1;
             }
+        }
+
+        TextMetrics {
+            id: _placeholderMetrics
+
+            font: _lineEdit.font
+            text: _lineEdit.placeholderText
         }
 
         Timer {
@@ -255,6 +268,8 @@ QQT.Control {
                 || keyboardLayout === KELUIQCG.KelGlobal.SymbolsLayout)
             return;
         event.accepted = true;
+        if (event.text === "")
+            return;
         if (_letterTimer.running)
             _input.remove(cursorPosition, cursorPosition + 1);
         _input.insert(cursorPosition, event.text);

@@ -10,13 +10,14 @@ import Kelui.Gallery
 Item {
     id: _page
 
-    /*! A line below the title, in English and in Russian. */
+    /*! A line below the title. */
     property string caption: ""
-    property string captionRussian: ""
     /*! The pictures of this page. */
     property list<Shot> shots
     /*! The control in focus, or null while the menu has it. */
     property Item focusedStop: null
+    /*! Gets the keys that the page does not handle; meanwhile digits open no pages. */
+    property Item keyTarget: null
 
     readonly property list<Item> stops: []
 
@@ -69,8 +70,13 @@ Item {
         return best !== null;
     }
 
-    /*! Pages with keys of their own replace this; false hands the key on to the menu. */
+    /*! Pages with keys of their own replace this; false hands the key on to keyTarget or the menu. */
     function handleKey(key: int, text: string): bool {
+        return handleStopKey(key);
+    }
+
+    /*! Arrows and OK among the stops. */
+    function handleStopKey(key: int): bool {
         switch (key) {
         case Qt.Key_Left:
             return moveFocus(-1, 0);

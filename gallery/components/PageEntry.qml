@@ -5,7 +5,9 @@ import QtQml
 QtObject {
     id: _entry
 
-    required property string title
+    /*! Names the page in every language, such as that of its component. */
+    required property string name
+    property string title: name
     required property string icon
     default property Component page
 }

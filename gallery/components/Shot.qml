@@ -7,6 +7,10 @@ QtObject {
 
     /*! The component and its state, such as "Button-checked"; also the name of the file. */
     required property string name
+    /*! The code of a language; by default that of all pictures. */
+    property string language
+    /*! Digits of the remote that are pressed in the state. */
+    property string digits
 
     /*! Puts the page into the state. */
     signal taken

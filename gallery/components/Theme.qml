@@ -31,6 +31,9 @@ QtObject {
     readonly property font body: sizedFont(20, Font.Normal)
     readonly property font caption: sizedFont(18, Font.Normal)
     readonly property font hint: sizedFont(16, Font.DemiBold)
+    readonly property font field: controlFont(22, Font.Normal)
+    readonly property font key: controlFont(24, Font.DemiBold)
+    readonly property font smallKey: controlFont(20, Font.DemiBold)
 
     readonly property var buttonBackgrounds: ({
         disabled: "#161d28", checked: positive, focused: accent, normal: raised
@@ -47,9 +50,17 @@ QtObject {
     readonly property var menuTitles: ({
         disabled: disabledText, checked: accent, focused: ink, normal: secondaryText
     })
+    readonly property var fieldBackgrounds: ({ selected: text, normal: surface })
+    readonly property var fieldTexts: ({ selected: ink, normal: text, wide: text })
+    readonly property var fieldPlaceholders: ({ selected: "#566176", normal: disabledText })
 
     function sizedFont(pixelSize: int, weight: int): font {
         return Qt.font({ pixelSize: pixelSize, weight: weight });
+    }
+
+    /*! Controls that are told no family take that of the platform, not that of the application. */
+    function controlFont(pixelSize: int, weight: int): font {
+        return Qt.font({ family: Application.font.family, pixelSize: pixelSize, weight: weight });
     }
 
     function icon(name: string): string {

@@ -9,8 +9,7 @@ GalleryPage {
 
     property bool areEnabled: true
 
-    caption: "Four states, two ways to find the width, titles cut to the room left"
-    captionRussian: "Четыре состояния, два способа выбрать ширину, обрезка длинных названий"
+    caption: qsTr("Four states, two ways to find the width, titles cut to the room left")
     shots: [
         Shot {
             name: "Button"
@@ -37,6 +36,10 @@ GalleryPage {
                 _page.focusedStop = _switch;
                 _page.activate();
             }
+        },
+        Shot {
+            name: "Button-ru"
+            language: "ru"
         }
     ]
 
@@ -65,35 +68,35 @@ GalleryPage {
 
         StateButton {
             fixedSize: Qt.size(201, 64)
-            titleText: "Каналы"
+            titleText: qsTr("Channels")
             leftIconSource: Theme.icon("television")
         }
 
         StateButton {
             focused: true
             fixedSize: Qt.size(201, 64)
-            titleText: "Каналы"
+            titleText: qsTr("Channels")
             leftIconSource: Theme.icon("television")
         }
 
         StateButton {
             checked: true
             fixedSize: Qt.size(201, 64)
-            titleText: "Каналы"
+            titleText: qsTr("Channels")
             leftIconSource: Theme.icon("television")
         }
 
         StateButton {
             enabled: false
             fixedSize: Qt.size(201, 64)
-            titleText: "Каналы"
+            titleText: qsTr("Channels")
             leftIconSource: Theme.icon("television")
         }
     }
 
     Caption {
         y: 112
-        text: "isFixedWidth: true, animated colours — OK toggles checked"
+        text: qsTr("isFixedWidth: true, animated colours — OK toggles checked")
     }
 
     Row {
@@ -107,7 +110,7 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             fixedSize: Qt.size(240, 64)
-            titleText: "Смотреть"
+            titleText: qsTr("Watch")
             leftIconSource: Theme.icon("play")
         }
 
@@ -125,14 +128,14 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             fixedSize: Qt.size(512, 64)
-            titleText: "Добавить передачу «Северное сияние» в избранное"
+            titleText: qsTr("Add the programme “Northern Lights” to favourites")
             leftIconSource: Theme.icon("star")
         }
     }
 
     Caption {
         y: 224
-        text: "isFixedWidth: false — as wide as the texts"
+        text: qsTr("isFixedWidth: false — as wide as the texts")
     }
 
     Row {
@@ -144,7 +147,7 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             isFixedWidth: false
-            titleText: "Да"
+            titleText: qsTr("Yes")
         }
 
         StateButton {
@@ -152,7 +155,7 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             isFixedWidth: false
-            titleText: "Записать передачу"
+            titleText: qsTr("Record the programme")
         }
 
         StateButton {
@@ -160,14 +163,14 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             isFixedWidth: false
-            titleText: "All episodes"
+            titleText: qsTr("All episodes")
             rightIconSource: Theme.icon("forward")
         }
     }
 
     Caption {
         y: 336
-        text: "subtitleText, both icons"
+        text: qsTr("subtitleText, both icons")
     }
 
     Row {
@@ -181,8 +184,8 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             fixedSize: Qt.size(340, 96)
-            titleText: "Подписка «Кино»"
-            subtitleText: "299 ₽ в месяц"
+            titleText: qsTr("“Cinema” package")
+            subtitleText: qsTr("299 ₽ a month")
             leftIconSource: Theme.icon("lock")
             rightIconSource: Theme.icon("forward")
         }
@@ -192,8 +195,8 @@ GalleryPage {
             enabled: _page.areEnabled
             checkable: true
             fixedSize: Qt.size(276, 96)
-            titleText: "Sound"
-            subtitleText: "Surround, all the loudspeakers"
+            titleText: qsTr("Sound")
+            subtitleText: qsTr("Surround, all the loudspeakers")
             leftIconSource: Theme.icon("sound")
         }
 

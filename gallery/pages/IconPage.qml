@@ -13,8 +13,7 @@ GalleryPage {
         "book", "picture", "palette"
     ]
 
-    caption: "An image file in one colour, that of its control's state"
-    captionRussian: "Картинка из файла, окрашенная в цвет состояния"
+    caption: qsTr("An image file in one colour, that of its control's state")
     shots: [
         Shot {
             name: "Icon"
@@ -114,7 +113,7 @@ GalleryPage {
         y: 130
         width: 414
         height: 172
-        caption: "implicit size: that of the file"
+        caption: qsTr("implicit size: that of the file")
 
         Grid {
             columns: 7
@@ -139,7 +138,7 @@ GalleryPage {
         y: 130
         width: 414
         height: 172
-        caption: "coloringMethod, with gold of 50 % alpha"
+        caption: qsTr("coloringMethod, with gold of 50 % alpha")
 
         Column {
             spacing: 8
@@ -217,8 +216,8 @@ GalleryPage {
 
             Caption {
                 anchors.verticalCenter: parent.verticalCenter
-                text: _weather.colorizeOnTransparent ? "coloured transparent: it is gone"
-                                                     : "as the file draws it"
+                text: _weather.colorizeOnTransparent ? qsTr("coloured transparent: it is gone")
+                                                     : qsTr("as the file draws it")
             }
         }
     }

@@ -9,10 +9,9 @@ GalleryPage {
     id: _page
 
     readonly property list<color> colors: ["#ffc247", "#99ffc247", "#407fe3c4"]
-    readonly property list<string> titles: ["opaque", "60 % alpha", "25 % alpha"]
+    readonly property list<string> titles: [qsTr("opaque"), qsTr("60 % alpha"), qsTr("25 % alpha")]
 
-    caption: "Replaces the colour of a picture, with its own alpha or with the colour's"
-    captionRussian: "Перекрашивает картинку: прозрачность её собственная или из цвета"
+    caption: qsTr("Replaces the colour of a picture, with its own alpha or with the colour's")
     shots: [
         Shot {
             name: "ImageColorizer"
@@ -110,7 +109,7 @@ GalleryPage {
 
         Caption {
             width: 150
-            text: "the file"
+            text: qsTr("the file")
         }
 
         Repeater {
@@ -128,21 +127,23 @@ GalleryPage {
     MethodRow {
         y: 30
         title: "SourceAlpha"
-        explanation: "A pixel keeps its alpha; black stays"
+        explanation: qsTr("A pixel keeps its alpha; black stays")
         method: Generic.ImageColorizer.SourceAlpha
     }
 
     MethodRow {
         y: 148
         title: "DestinationAlpha"
-        explanation: "The colour's alpha counts; black too"
+        explanation: qsTr("The colour's alpha counts; black too")
         method: Generic.ImageColorizer.DestinationAlpha
     }
 
     Card {
         id: _live
 
-        readonly property list<string> colorNames: ["white", "gold", "mint", "rose", "50 % white"]
+        readonly property list<string> colorNames: [
+            qsTr("white"), qsTr("gold"), qsTr("mint"), qsTr("rose"), qsTr("50 % white")
+        ]
         readonly property list<color> paints: ["#ffffff", Theme.accent, Theme.mint, Theme.rose, "#80ffffff"]
         property int current: 0
 
@@ -150,7 +151,7 @@ GalleryPage {
         y: 280
         width: 840
         height: 204
-        caption: "color: " + colorNames[current] + " — OK for the next"
+        caption: qsTr("color: %1 — OK for the next").arg(colorNames[current])
 
         onClicked: current = (current + 1) % paints.length
 

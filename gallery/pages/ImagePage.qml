@@ -10,8 +10,7 @@ GalleryPage {
 
     property string clippedPicture: "city"
 
-    caption: "RoundedImage draws the whole picture, ClippableImage a window onto its middle"
-    captionRussian: "RoundedImage рисует картинку целиком, ClippableImage — окно на её середину"
+    caption: qsTr("RoundedImage draws the whole picture, ClippableImage a window onto its middle")
     shots: [
         Shot {
             name: "RoundedImage"
@@ -67,20 +66,20 @@ GalleryPage {
         spacing: 12
 
         Poster {
-            title: "Дюны"
-            subtitle: "Документальный, 2024"
+            title: qsTr("Dunes")
+            subtitle: qsTr("Documentary, 2024")
             picture: "dunes"
         }
 
         Poster {
-            title: "Ночной город"
-            subtitle: "Драма, 12 серий"
+            title: qsTr("City at Night")
+            subtitle: qsTr("Drama, 12 episodes")
             picture: "city"
         }
 
         Poster {
-            title: "Northern Lights"
-            subtitle: "Travel, live"
+            title: qsTr("Northern Lights")
+            subtitle: qsTr("Travel, live")
             picture: "north"
         }
     }
@@ -95,8 +94,8 @@ GalleryPage {
         y: 238
         width: 840
         height: 246
-        caption: "ClippableImage " + _clipped.width + " × " + _clipped.height + " on an image of "
-                 + _clipped.image.width + " × " + _clipped.image.height + " — OK for the next width"
+        caption: qsTr("ClippableImage %1 × %2 on an image of %3 × %4 — OK for the next width")
+                 .arg(_clipped.width).arg(_clipped.height).arg(_clipped.image.width).arg(_clipped.image.height)
 
         onClicked: current = (current + 1) % widths.length
 

@@ -8,8 +8,7 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 GalleryPage {
     id: _page
 
-    caption: "A filled box; its corners are square unless rounding is forced"
-    captionRussian: "Закрашенный прямоугольник; углы прямые, пока скругление не потребовано"
+    caption: qsTr("A filled box; its corners are square unless rounding is forced")
     shots: [
         Shot {
             name: "Rectangle"
@@ -107,7 +106,7 @@ GalleryPage {
         y: 248
         width: 556
         height: 236
-        caption: "roundingRadius: 40, forceRounding: " + _first.forceRounding + " — OK switches"
+        caption: qsTr("roundingRadius: 40, forceRounding: %1 — OK switches").arg(String(_first.forceRounding))
 
         onClicked: _first.forceRounding = !_first.forceRounding
 

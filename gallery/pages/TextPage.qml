@@ -8,11 +8,11 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 GalleryPage {
     id: _page
 
+    // Samples of scripts are the same in every language of the gallery.
     readonly property string story: "Северное сияние над озером: путешествие начинается ночью, когда гаснут огни "
                                     + "последней деревни и остаётся только снег."
 
-    caption: "Plain text in one colour and font: wrapped, cut and aligned"
-    captionRussian: "Простой текст одного цвета и шрифта: переносы, обрезка, выравнивание"
+    caption: qsTr("Plain text in one colour and font: wrapped, cut and aligned")
     shots: [
         Shot {
             name: "Text"
@@ -104,7 +104,7 @@ GalleryPage {
             id: _wrapped
 
             maximumLineCount: 3
-            text: "Lines break between words; a word wider than the line breaks anywhere."
+            text: qsTr("Lines break between words; a word wider than the line breaks anywhere.")
 
             Component.onCompleted: textWidth = 380
         }
@@ -164,7 +164,7 @@ GalleryPage {
         y: 298
         width: 414
         height: 186
-        caption: "text: markup stays as typed, RTL at the right"
+        caption: qsTr("text: markup stays as typed, RTL at the right")
 
         Label {
             text: "<b>Not bold</b> &amp; 5 < 7"

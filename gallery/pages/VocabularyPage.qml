@@ -15,8 +15,7 @@ GalleryPage {
     ][currentLayout]
     property int currentLayout: 1
 
-    caption: "KelGlobal: keyboard layouts and enumerations that all controls share"
-    captionRussian: "KelGlobal: раскладки клавиатуры и перечисления, общие для всех"
+    caption: qsTr("KelGlobal: keyboard layouts and enumerations that all controls share")
     shots: [
         Shot {
             name: "KelGlobal"
@@ -76,7 +75,7 @@ GalleryPage {
         y: 78
         width: 840
         height: 250
-        caption: _page.layoutNames[_page.currentLayout] + "Layout: " + _page.keys.length + " keys"
+        caption: qsTr("%1Layout: %2 keys").arg(_page.layoutNames[_page.currentLayout]).arg(_page.keys.length)
 
         Flow {
             width: 808

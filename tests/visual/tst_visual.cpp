@@ -217,6 +217,8 @@ void tst_Visual::refusesWhatItCannotDo_data()
                           << QStringLiteral("Nowhere");
     QTest::newRow("size") << QStringList{QStringLiteral("--size"), QStringLiteral("wide")}
                           << QStringLiteral("wide");
+    QTest::newRow("language") << QStringList{QStringLiteral("--language"), QStringLiteral("tlh")}
+                              << QStringLiteral("tlh");
     QTest::newRow("folder") << QStringList{QStringLiteral("--shots"), QStringLiteral("/proc/none")}
                             << QStringLiteral("/proc/none");
 }

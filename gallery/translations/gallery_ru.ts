@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>ButtonPage</name>
+    <message>
+        <source>Four states, two ways to find the width, titles cut to the room left</source>
+        <translation>Четыре состояния, два способа выбрать ширину, обрезка длинных названий</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Каналы</translation>
+    </message>
+    <message>
+        <source>isFixedWidth: true, animated colours — OK toggles checked</source>
+        <translation>isFixedWidth: true, плавная смена цветов — OK меняет checked</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>Add the programme “Northern Lights” to favourites</source>
+        <translation>Добавить передачу «Северное сияние» в избранное</translation>
+    </message>
+    <message>
+        <source>isFixedWidth: false — as wide as the texts</source>
+        <translation>isFixedWidth: false — по ширине текста</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>Record the programme</source>
+        <translation>Записать передачу</translation>
+    </message>
+    <message>
+        <source>All episodes</source>
+        <translation>Все серии</translation>
+    </message>
+    <message>
+        <source>subtitleText, both icons</source>
+        <translation>subtitleText, оба значка</translation>
+    </message>
+    <message>
+        <source>“Cinema” package</source>
+        <translation>Подписка «Кино»</translation>
+    </message>
+    <message>
+        <source>299 ₽ a month</source>
+        <translation>299 ₽ в месяц</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Звук</translation>
+    </message>
+    <message>
+        <source>Surround, all the loudspeakers</source>
+        <translation>Объёмный, из всех колонок</translation>
+    </message>
+</context>
+<context>
+    <name>IconPage</name>
+    <message>
+        <source>An image file in one colour, that of its control&apos;s state</source>
+        <translation>Картинка из файла, окрашенная в цвет состояния</translation>
+    </message>
+    <message>
+        <source>implicit size: that of the file</source>
+        <translation>implicit size: размер файла</translation>
+    </message>
+    <message>
+        <source>coloringMethod, with gold of 50 % alpha</source>
+        <translation>coloringMethod, золотой, alpha 50 %</translation>
+    </message>
+    <message>
+        <source>coloured transparent: it is gone</source>
+        <translation>цвет прозрачен: не видно</translation>
+    </message>
+    <message>
+        <source>as the file draws it</source>
+        <translation>как нарисовано в файле</translation>
+    </message>
+</context>
+<context>
+    <name>ImageColorizerPage</name>
+    <message>
+        <source>opaque</source>
+        <translation>сплошной</translation>
+    </message>
+    <message>
+        <source>60 % alpha</source>
+        <translation>alpha 60 %</translation>
+    </message>
+    <message>
+        <source>25 % alpha</source>
+        <translation>alpha 25 %</translation>
+    </message>
+    <message>
+        <source>Replaces the colour of a picture, with its own alpha or with the colour&apos;s</source>
+        <translation>Перекрашивает картинку: прозрачность её собственная или из цвета</translation>
+    </message>
+    <message>
+        <source>the file</source>
+        <translation>файл</translation>
+    </message>
+    <message>
+        <source>A pixel keeps its alpha; black stays</source>
+        <translation>У точки своя alpha; чёрное остаётся</translation>
+    </message>
+    <message>
+        <source>The colour&apos;s alpha counts; black too</source>
+        <translation>Alpha из цвета; красит и чёрное</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>белый</translation>
+    </message>
+    <message>
+        <source>gold</source>
+        <translation>золотой</translation>
+    </message>
+    <message>
+        <source>mint</source>
+        <translation>мятный</translation>
+    </message>
+    <message>
+        <source>rose</source>
+        <translation>розовый</translation>
+    </message>
+    <message>
+        <source>50 % white</source>
+        <translation>белый 50 %</translation>
+    </message>
+    <message>
+        <source>color: %1 — OK for the next</source>
+        <translation>color: %1 — OK: следующий</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePage</name>
+    <message>
+        <source>RoundedImage draws the whole picture, ClippableImage a window onto its middle</source>
+        <translation>RoundedImage рисует картинку целиком, ClippableImage — окно на её середину</translation>
+    </message>
+    <message>
+        <source>Dunes</source>
+        <translation>Дюны</translation>
+    </message>
+    <message>
+        <source>Documentary, 2024</source>
+        <translation>Документальный, 2024</translation>
+    </message>
+    <message>
+        <source>City at Night</source>
+        <translation>Ночной город</translation>
+    </message>
+    <message>
+        <source>Drama, 12 episodes</source>
+        <translation>Драма, 12 серий</translation>
+    </message>
+    <message>
+        <source>Northern Lights</source>
+        <translation>Северное сияние</translation>
+    </message>
+    <message>
+        <source>Travel, live</source>
+        <translation>Путешествия, прямой эфир</translation>
+    </message>
+    <message>
+        <source>ClippableImage %1 × %2 on an image of %3 × %4 — OK for the next width</source>
+        <translation>ClippableImage %1 × %2, картинка %3 × %4 — OK: следующая ширина</translation>
+    </message>
+</context>
+<context>
+    <name>KeyItem</name>
+    <message>
+        <source>SPACE_KEY</source>
+        <translation>Пробел</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>move</source>
+        <translation>ход</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>открыть</translation>
+    </message>
+    <message>
+        <source>press</source>
+        <translation>нажать</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>выход</translation>
+    </message>
+    <message>
+        <source>fields</source>
+        <translation>поля</translation>
+    </message>
+    <message>
+        <source>menu</source>
+        <translation>меню</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>ввод</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>раздел</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Картинки</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Vocabulary</source>
+        <translation>Словарь</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <extracomment>The name of the language of this translation, in itself.</extracomment>
+        <translation>Русский</translation>
+    </message>
+</context>
+<context>
+    <name>RectanglePage</name>
+    <message>
+        <source>A filled box; its corners are square unless rounding is forced</source>
+        <translation>Закрашенный прямоугольник; углы прямые, пока скругление не потребовано</translation>
+    </message>
+    <message>
+        <source>roundingRadius: 40, forceRounding: %1 — OK switches</source>
+        <translation>roundingRadius: 40, forceRounding: %1 — OK переключает</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPage</name>
+    <message>
+        <source>LineEdit and Keyboard: each field brings the keyboard that suits it</source>
+        <translation>LineEdit и Keyboard: у каждого поля подходящая ему клавиатура</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Film, channel, person</source>
+        <translation>Фильм, канал, актёр</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>As others see it</source>
+        <translation>Как его видят другие</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Телефон</translation>
+    </message>
+    <message>
+        <source>Phone: digits are missing</source>
+        <translation>Телефон: не все цифры</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>Letters and digits</source>
+        <translation>Буквы и цифры</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>Электронная почта</translation>
+    </message>
+    <message>
+        <source>name@example.com</source>
+        <translation>имя@example.com</translation>
+    </message>
+    <message>
+        <source>E-mail: not an address</source>
+        <translation>Почта: это не адрес</translation>
+    </message>
+    <message>
+        <source>Promo code</source>
+        <translation>Промокод</translation>
+    </message>
+    <message>
+        <source>8 characters</source>
+        <translation>8 символов</translation>
+    </message>
+    <message>
+        <source>Promo code: 8 characters</source>
+        <translation>Промокод: нужно 8 символов</translation>
+    </message>
+</context>
+<context>
+    <name>TextPage</name>
+    <message>
+        <source>Plain text in one colour and font: wrapped, cut and aligned</source>
+        <translation>Простой текст одного цвета и шрифта: переносы, обрезка, выравнивание</translation>
+    </message>
+    <message>
+        <source>Lines break between words; a word wider than the line breaks anywhere.</source>
+        <translation>Строки рвутся между словами, а слово шире строки — где придётся.</translation>
+    </message>
+    <message>
+        <source>text: markup stays as typed, RTL at the right</source>
+        <translation>text: разметка видна как есть, RTL справа</translation>
+    </message>
+</context>
+<context>
+    <name>VocabularyPage</name>
+    <message>
+        <source>KelGlobal: keyboard layouts and enumerations that all controls share</source>
+        <translation>KelGlobal: раскладки клавиатуры и перечисления, общие для всех</translation>
+    </message>
+    <message>
+        <source>%1Layout: %2 keys</source>
+        <translation>%1Layout, клавиш: %2</translation>
+    </message>
+</context>
+</TS>
