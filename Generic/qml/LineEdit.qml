@@ -197,11 +197,6 @@ QQT.Control {
         }
     }
 
-    /*! The colour of a map for the state that the field is in. */
-    function stateColor(colors: var): color {
-        return selected ? colors["selected"] : colors["normal"];
-    }
-
     Component {
         id: _maskTwin
 
@@ -218,11 +213,11 @@ QQT.Control {
         */
         function maskedEnd(text: string): int {
             const start = _input.cursorPosition;
-            const twin = _maskTwin.createObject(null, {
-                inputMask: _input.inputMask.split(";")[0] + ";\uE000"
-            }) as TextInput;
+            const [mask, blanks] = _input.inputMask.split(";");
+            const twinBlank = "\uE000";
+            const twin = _maskTwin.createObject(null, { inputMask: mask + ";" + twinBlank }) as TextInput;
             const blank = twin.displayText;
-            twin.insert(start, text);
+            twin.insert(start, text.replaceAll(blanks ? blanks.charAt(0) : " ", twinBlank));
             const filled = twin.displayText;
             twin.destroy();
             let end = filled.length;
@@ -230,6 +225,21 @@ QQT.Control {
                 --end;
             return end;
         }
+
+        // A character beyond the basic plane is two units of text, which do not stand alone.
+        function unitsBefore(): int {
+            const position = _input.cursorPosition;
+            return position > 1 && _input.text.codePointAt(position - 2) > 0xffff ? 2 : 1;
+        }
+
+        function unitsAfter(): int {
+            return _input.text.codePointAt(_input.cursorPosition) > 0xffff ? 2 : 1;
+        }
+    }
+
+    /*! The colour of a map for the state that the field is in. */
+    function stateColor(colors: var): color {
+        return selected ? colors["selected"] : colors["normal"];
     }
 
     /*! Types text at the cursor, while selected. */
@@ -246,20 +256,21 @@ QQT.Control {
     function delCurrentSymbol() {
         if (!selected || cursorPosition === 0)
             return;
+        const units = _private.unitsBefore();
         // Through a mask, this steps over fixed characters; there, removing moves no cursor.
-        --cursorPosition;
-        _input.remove(cursorPosition, cursorPosition + 1);
+        cursorPosition -= units;
+        _input.remove(cursorPosition, cursorPosition + units);
     }
 
     function moveCursorToLeft() {
         if (selected && cursorPosition > 0)
-            --cursorPosition;
+            cursorPosition -= _private.unitsBefore();
     }
 
     function moveCursorToRight() {
         // At the end of the text the input itself ignores the step.
         if (selected && text !== "" && cursorPosition <= text.length)
-            ++cursorPosition;
+            cursorPosition += _private.unitsAfter();
     }
 
     /*! Enters a digit of the remote by the rule that keyboardLayout tells of. */

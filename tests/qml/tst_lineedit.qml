@@ -859,6 +859,24 @@ Item {
             }
         }
 
+        function test_pairsOfUnitsStayWhole() {
+            const field = edit({ text: "a😀б" });
+            const walk = step => {
+                const positions = [field.cursorPosition];
+                for (let i = 0; i < 4; ++i) {
+                    step();
+                    positions.push(field.cursorPosition);
+                }
+                return positions.join();
+            };
+            compare(walk(() => field.moveCursorToLeft()), "4,3,1,0,0");
+            compare(walk(() => field.moveCursorToRight()), "0,1,3,4,4");
+            field.moveCursorToLeft();
+            field.delCurrentSymbol();
+            compare(field.text, "aб");
+            compare(field.cursorPosition, 1);
+        }
+
         function test_hugeTextFromTheStart() {
             const field = edit({ text: "0123456789".repeat(10000) });
             compare(field.text.length, 100000);
