@@ -87,12 +87,6 @@ QQT.Button {
 
     implicitWidth: isFixedWidth ? fixedSize.width : _contentBlock.width + leftPadding + rightPadding
     implicitHeight: fixedSize.height
-    leftPadding: 0
-    topPadding: 0
-    rightPadding: 0
-    bottomPadding: 0
-    checkable: false
-    checked: false
     text: titleText
 
     background: KELUIQCG.Rectangle {

@@ -29,11 +29,7 @@ QQT.Control {
                             implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
                              implicitContentHeight + topPadding + bottomPadding)
-    topInset: 0
-    leftInset: 0
-    rightInset: 0
-    bottomInset: 0
-    padding: 0
+    hoverEnabled: false
 
     contentItem: KELUIQCG.RoundedImage {
         id: _contentItem
@@ -44,18 +40,11 @@ QQT.Control {
             sourceItem: _contentItem
             color: _icon.iconColor
             coloringMethod: _icon.coloringMethod
-            enabled: (_icon.colorizeOnTransparent && _private.isTransparent(_icon.iconColor))
-                     || !_private.isTransparent(_icon.iconColor)
+            enabled: _icon.colorizeOnTransparent || !Qt.colorEqual(_icon.iconColor, "transparent")
         }
     }
 
-    background: Item {}
-
-    QtObject {
-        id: _private
-
-        function isTransparent(color: color): bool {
-            return Qt.colorEqual(color, "transparent");
-        }
+    background: Item {
+        id: _background
     }
 }
