@@ -17,6 +17,9 @@ int main(int argc, char **argv)
     measureText(table);
     measureColorizer(table);
     measureKeyboard(table);
+    measureControls(table);
+    measureViews(table);
+    measureIndicators(table);
     table.print();
     return 0;
 }

@@ -46,3 +46,6 @@ double heapInUse();
 void measureText(Table &table);
 void measureColorizer(Table &table);
 void measureKeyboard(Table &table);
+void measureControls(Table &table);
+void measureIndicators(Table &table);
+void measureViews(Table &table);

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "scene.h"
 
-#include <QtQml/QQmlComponent>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
 #include <QtQuick/QQuickRenderTarget>
+
+#include <utility>
 
 Scene::Scene(const QSize &size)
     : m_image(size, QImage::Format_ARGB32_Premultiplied)
@@ -16,10 +19,15 @@ Scene::Scene(const QSize &size)
 
 Scene::~Scene() = default;
 
-std::unique_ptr<QQuickItem> Scene::create(const QByteArray &source)
+std::unique_ptr<QQmlComponent> Scene::compile(const QByteArray &source)
 {
-    QQmlComponent component(&m_engine);
-    component.setData("import QtQuick\nimport Kelui.UI.Qml.Controls.Generic as K\n" + source, QUrl());
+    auto component = std::make_unique<QQmlComponent>(&m_engine);
+    component->setData("import QtQuick\nimport Kelui.UI.Qml.Controls.Generic as K\n" + source, QUrl());
+    return component;
+}
+
+std::unique_ptr<QQuickItem> Scene::create(QQmlComponent &component)
+{
     std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(component.create()));
     if (!item)
         qFatal("%s", qPrintable(component.errorString()));
@@ -32,6 +40,26 @@ void Scene::renderFrame()
     m_control.polishItems();
     m_control.sync();
     m_control.render();
+}
+
+int Scene::run(std::chrono::milliseconds time)
+{
+    bool hasChanged = false;
+    const auto note = [&hasChanged] { hasChanged = true; };
+    const auto asked = QObject::connect(&m_control, &QQuickRenderControl::renderRequested, note);
+    const auto changed = QObject::connect(&m_control, &QQuickRenderControl::sceneChanged, note);
+    int frames = 0;
+    const QDeadlineTimer deadline(time);
+    while (!deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, deadline);
+        if (std::exchange(hasChanged, false)) {
+            renderFrame();
+            ++frames;
+        }
+    }
+    QObject::disconnect(asked);
+    QObject::disconnect(changed);
+    return frames;
 }
 
 bool Scene::canImport(const QByteArray &module)

@@ -3,11 +3,13 @@
 
 #include <QtCore/QMetaProperty>
 #include <QtGui/QImage>
+#include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickRenderControl>
 #include <QtQuick/QQuickWindow>
 
+#include <chrono>
 #include <memory>
 
 //! A window that draws into an image with the software renderer, a frame at a time.
@@ -17,9 +19,15 @@ public:
     explicit Scene(const QSize &size = {1280, 720});
     ~Scene();
 
-    //! An item from QML source, which sees Qt Quick and the module as K; the scene shows it.
-    std::unique_ptr<QQuickItem> create(const QByteArray &source);
+    //! QML source, which sees Qt Quick and the module as K.
+    std::unique_ptr<QQmlComponent> compile(const QByteArray &source);
+    //! An item that the scene shows.
+    std::unique_ptr<QQuickItem> create(QQmlComponent &component);
+    std::unique_ptr<QQuickItem> create(const QByteArray &source) { return create(*compile(source)); }
     void renderFrame();
+    //! Lets events happen for some time and draws whenever something has changed. Returns the number of
+    //! frames.
+    int run(std::chrono::milliseconds time);
 
     //! Whether QML source can import a module of this name.
     bool canImport(const QByteArray &module);

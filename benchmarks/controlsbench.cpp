@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include "measure.h"
+#include "scene.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int count = 300;
+
+//! What the controls of an application share: the same icon, colours and type for both sides.
+const QByteArray common = R"(
+    readonly property string icon: "file://)" KELUI_ICON_DIR R"(/play.svg"
+    readonly property var colors: ({ disabled: "#161d28", checked: "#1b6b5f", focused: "#ffc247", normal: "#2a3648" })
+    readonly property var inks: ({ disabled: "#8593a8", checked: "#ffffff", focused: "#14181f", normal: "#f3f6fb" })
+)";
+
+//! A control of the module, the equal one made of Qt Quick Controls, and the goals: made, drawn, heap.
+struct Pair
+{
+    QString name;
+    QByteArray ours;
+    QByteArray theirs;
+    double made;
+    double drawn;
+    double heap;
+};
+
+const QByteArray ourButton = R"(
+    K.Button {
+        fixedSize: Qt.size(240, 64); spacing: 12
+        titleText: "Смотреть"; subtitleText: "299 в месяц"
+        titleFont.pixelSize: 22; subtitleFont.pixelSize: 18
+        leftIconSource: scene.icon; rightIconSource: scene.icon
+        leftIconSize: Qt.size(32, 32); rightIconSize: Qt.size(32, 32)
+        backgroundColors: scene.colors; titleColors: scene.inks; subtitleColors: scene.inks
+        leftIconColors: scene.inks; rightIconColors: scene.inks
+    }
+)";
+const QByteArray theirButton = R"(
+    Button {
+        id: button
+
+        property bool focused: false
+        property string subtitle: "299 в месяц"
+        readonly property color ink: !enabled ? "#8593a8" : checked ? "#ffffff" : focused ? "#14181f" : "#f3f6fb"
+
+        implicitWidth: 240; implicitHeight: 64; padding: 0; spacing: 12
+        text: "Смотреть"; font.pixelSize: 22
+        background: Rectangle {
+            color: !button.enabled ? "#161d28" : button.checked ? "#1b6b5f" : button.focused ? "#ffc247" : "#2a3648"
+            Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+        }
+        contentItem: Item {
+            Row {
+                anchors.centerIn: parent; spacing: button.spacing
+                IconImage { width: 32; height: 32; source: scene.icon; color: button.ink; anchors.verticalCenter: parent.verticalCenter }
+                Column {
+                    anchors.verticalCenter: parent.verticalCenter; spacing: 10
+                    Text {
+                        text: button.text; font: button.font; color: button.ink; elide: Text.ElideRight
+                        Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+                    }
+                    Text {
+                        text: button.subtitle; font.pixelSize: 18; color: button.ink; elide: Text.ElideRight
+                        Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+                    }
+                }
+                IconImage { width: 32; height: 32; source: scene.icon; color: button.ink; anchors.verticalCenter: parent.verticalCenter }
+            }
+        }
+    }
+)";
+
+const QByteArray ourMenuButton = R"(
+    K.MainMenuButton {
+        text: "Фильмы"; textFont.pixelSize: 20; leftIconSource: scene.icon
+    }
+)";
+const QByteArray theirMenuButton = R"(
+    Button {
+        id: button
+
+        property bool focused: false
+        readonly property color ink: focused ? "#99000000" : checked ? "#cc000000" : "black"
+
+        implicitHeight: 57; leftPadding: 16; rightPadding: 16; spacing: 8; checkable: true
+        text: "Фильмы"; font.pixelSize: 20
+        background: Rectangle {
+            radius: 15
+            color: button.focused ? "#99ffffff" : button.checked ? "#ccffffff" : "white"
+            Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+        }
+        contentItem: RowLayout {
+            spacing: button.spacing
+            IconImage { source: scene.icon; color: button.ink }
+            Text {
+                text: button.text; font: button.font; color: button.ink
+                Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+            }
+            Image { visible: source != "" }
+        }
+    }
+)";
+
+const QByteArray ourTabButton = R"(
+    K.TabButton {
+        text: "Фильмы"; font.pixelSize: 20; minimumWidth: 120; minimumHeight: 48
+    }
+)";
+const QByteArray theirTabButton = R"(
+    TabButton {
+        id: button
+
+        property bool focused: false
+
+        implicitWidth: 120; implicitHeight: 48; padding: 0
+        text: "Фильмы"; font.pixelSize: 20
+        background: Rectangle {
+            color: button.checked ? "#000000" : button.focused ? "#000001" : "#000002"
+            Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+        }
+        contentItem: Text {
+            text: button.text; font: button.font; horizontalAlignment: Text.AlignHCenter; verticalAlignment: Text.AlignVCenter
+            color: button.checked ? "#ffffff" : button.focused ? "#fffffe" : "#fffffd"
+            Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
+        }
+    }
+)";
+
+const QByteArray ourCheckBox = R"(
+    K.CheckBox {
+        text: "Субтитры"; titleFont.pixelSize: 20; iconPath: scene.icon
+        indicatorColors: scene.colors; iconColors: scene.inks; titleColors: scene.inks
+    }
+)";
+const QByteArray theirCheckBox = R"(
+    CheckBox {
+        id: box
+
+        property bool focused: false
+
+        spacing: 24; padding: 0
+        text: "Субтитры"; font.pixelSize: 20
+        indicator: Rectangle {
+            implicitWidth: 60; implicitHeight: 60
+            y: (box.height - height) / 2
+            color: !box.enabled ? "#161d28" : box.checked ? "#1b6b5f" : box.focused ? "#ffc247" : "#2a3648"
+            Image { anchors.fill: parent; fillMode: Image.Pad; source: scene.icon; visible: box.checked }
+        }
+        contentItem: Text {
+            leftPadding: box.indicator.width + box.spacing
+            text: box.text; font: box.font; verticalAlignment: Text.AlignVCenter
+            color: !box.enabled ? "#8593a8" : box.checked ? "#ffffff" : box.focused ? "#14181f" : "#f3f6fb"
+        }
+    }
+)";
+
+QByteArray sourceOf(const QByteArray &control)
+{
+    return "import QtQuick.Controls.Basic\nimport QtQuick.Controls.impl\nimport QtQuick.Layouts\nItem {\n"
+           "id: scene; width: 1280; height: 720\n"
+        + common + "Grid { columns: 10; Repeater { model: " + QByteArray::number(count)
+        + "; delegate: " + control + " } } }";
+}
+
+//! A scene with one kind of control.
+class Stock
+{
+public:
+    explicit Stock(const QByteArray &control)
+        : m_component(m_scene.compile(sourceOf(control)))
+    {
+        make(true); // Fills the caches that outlive the controls.
+    }
+
+    void make(bool isDrawn)
+    {
+        const auto controls = m_scene.create(*m_component);
+        if (isDrawn)
+            m_scene.renderFrame();
+    }
+
+    double kilobytes()
+    {
+        constexpr double kilobyte = 1024;
+        const double before = heapInUse();
+        const auto controls = m_scene.create(*m_component);
+        m_scene.renderFrame();
+        return (heapInUse() - before) / kilobyte;
+    }
+
+private:
+    Scene m_scene;
+    std::unique_ptr<QQmlComponent> m_component;
+};
+
+void measurePair(Table &table, const Pair &pair)
+{
+    const QString name = u"%1, %2, %3"_s.arg(pair.name, QString::number(count));
+    const auto rowName = [&](const QString &what) { return name.arg(what); };
+    const QString made = rowName(u"made and deleted"_s);
+    const QString drawn = rowName(u"made, drawn and deleted"_s);
+    const QString heap = rowName(u"heap after a frame"_s);
+    if (!table.wants(made) && !table.wants(drawn) && !table.wants(heap))
+        return;
+    Stock ours(pair.ours);
+    Stock theirs(pair.theirs);
+    constexpr int fewRounds = 15;
+    if (table.wants(made))
+        table.add(timed(made, pair.made, [&] { ours.make(false); }, [&] { theirs.make(false); }, fewRounds));
+    if (table.wants(drawn))
+        table.add(timed(drawn, pair.drawn, [&] { ours.make(true); }, [&] { theirs.make(true); }, fewRounds));
+    if (table.wants(heap)) {
+        Row row{heap, u"kB"_s};
+        row.ours = ours.kilobytes();
+        row.theirs = theirs.kilobytes();
+        row.ratio = row.ours / row.theirs;
+        row.goal = pair.heap;
+        table.add(row);
+    }
+}
+
+} // namespace
+
+void measureControls(Table &table)
+{
+    measurePair(table, {u"Button"_s, ourButton, theirButton, 1.5, 1.3, 1.2});
+    measurePair(table, {u"MainMenuButton"_s, ourMenuButton, theirMenuButton, 1.4, 1.2, 1.2});
+    measurePair(table, {u"TabButton"_s, ourTabButton, theirTabButton, 0.9, 0.9, 0.95});
+    measurePair(table, {u"CheckBox"_s, ourCheckBox, theirCheckBox, 1.05, 1.1, 1.2});
+}
