@@ -55,8 +55,7 @@ Item {
     Component {
         id: _component
 
-        // The view comes with its creation, which qmllint does not know.
-        KELUIQCG.Highlight {} // qmllint disable required
+        KELUIQCG.Highlight {}
     }
 
     TestCase {

@@ -15,8 +15,7 @@ Item {
     Component {
         id: _component
 
-        // The model comes with its creation, which qmllint does not know.
-        KELUIQCG.MediaBlock {} // qmllint disable required
+        KELUIQCG.MediaBlock {}
     }
 
     Component {
