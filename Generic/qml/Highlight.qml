@@ -18,10 +18,10 @@ Item {
     readonly property alias horizontalScrollingAnimation: _horizontalAnimation
     readonly property alias verticalScrollingAnimation: _verticalAnimation
 
-    x: view?.currentItem?.x ?? 0
-    y: view?.currentItem?.y ?? 0
-    width: view?.currentItem?.width ?? 0
-    height: view?.currentItem?.height ?? 0
+    x: (view?.currentItem as Item)?.x ?? 0
+    y: (view?.currentItem as Item)?.y ?? 0
+    width: (view?.currentItem as Item)?.width ?? 0
+    height: (view?.currentItem as Item)?.height ?? 0
 
     Behavior on x {
         enabled: _highlight.animationEnabled
