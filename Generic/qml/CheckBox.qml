@@ -40,7 +40,7 @@ QQT.CheckBox {
     indicator: KELUIQCG.Rectangle {
         id: _indicator
 
-        anchors.verticalCenter: parent?.verticalCenter
+        y: Math.round((_checkBox.height - height) / 2)
         implicitWidth: _checkBox.indicatorSize.width
         implicitHeight: _checkBox.indicatorSize.height
         forceRounding: _checkBox.forceRounding
@@ -63,9 +63,7 @@ QQT.CheckBox {
 
         KELUIQCG.Text {
             Layout.leftMargin: _indicator.width + _checkBox.spacing
-            Layout.alignment: Qt.AlignVCenter
             Layout.fillWidth: true
-            horizontalAlignment: Qt.AlignLeft
             font: _checkBox.titleFont
             color: _checkBox.stateColor(_checkBox.titleColors)
             textWidth: width
