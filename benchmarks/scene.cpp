@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scene.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QDeadlineTimer>
 #include <QtQuick/QQuickRenderTarget>
-
-#include <utility>
 
 Scene::Scene(const QSize &size)
     : m_image(size, QImage::Format_ARGB32_Premultiplied)
@@ -40,26 +36,6 @@ void Scene::renderFrame()
     m_control.polishItems();
     m_control.sync();
     m_control.render();
-}
-
-int Scene::run(std::chrono::milliseconds time)
-{
-    bool hasChanged = false;
-    const auto note = [&hasChanged] { hasChanged = true; };
-    const auto asked = QObject::connect(&m_control, &QQuickRenderControl::renderRequested, note);
-    const auto changed = QObject::connect(&m_control, &QQuickRenderControl::sceneChanged, note);
-    int frames = 0;
-    const QDeadlineTimer deadline(time);
-    while (!deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, deadline);
-        if (std::exchange(hasChanged, false)) {
-            renderFrame();
-            ++frames;
-        }
-    }
-    QObject::disconnect(asked);
-    QObject::disconnect(changed);
-    return frames;
 }
 
 bool Scene::canImport(const QByteArray &module)

@@ -9,7 +9,6 @@
 #include <QtQuick/QQuickRenderControl>
 #include <QtQuick/QQuickWindow>
 
-#include <chrono>
 #include <memory>
 
 //! A window that draws into an image with the software renderer, a frame at a time.
