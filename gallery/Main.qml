@@ -124,6 +124,11 @@ Window {
         return shot.digits;
     }
 
+    /*! The milliseconds to let pass then. */
+    function shotTime(index: int): int {
+        return currentPage.shots[index].time;
+    }
+
     function nextLanguage() {
         const codes = Language.codes;
         Language.code = codes[(codes.indexOf(Language.code) + 1) % codes.length];
