@@ -71,6 +71,63 @@ Window {
             icon: "book"
 
             VocabularyPage {}
+        },
+        PageEntry {
+            name: "MainMenuButton"
+            icon: "menu"
+
+            MainMenuButtonPage {}
+        },
+        PageEntry {
+            name: "TabButton"
+            icon: "tabs"
+
+            TabButtonPage {}
+        },
+        PageEntry {
+            name: "CheckBox"
+            icon: "checkbox"
+
+            CheckBoxPage {}
+        },
+        PageEntry {
+            name: "Lists"
+            title: qsTr("Lists")
+            icon: "list"
+
+            ListsPage {}
+        },
+        PageEntry {
+            name: "Grid"
+            title: qsTr("Grid")
+            icon: "grid"
+
+            GridPage {}
+        },
+        PageEntry {
+            name: "BusyIndicator"
+            icon: "hourglass"
+
+            BusyIndicatorPage {}
+        },
+        PageEntry {
+            name: "SpinnerIndicator"
+            icon: "spinner"
+
+            SpinnerIndicatorPage {}
+        },
+        PageEntry {
+            name: "RewindIcon"
+            icon: "rewind"
+
+            RewindIconPage {}
+        },
+        PageEntry {
+            name: "Layout"
+            title: qsTr("Layout")
+            icon: "layout"
+
+            LayoutPage {}
         }
     ]
 
@@ -122,6 +179,11 @@ Window {
         shot.taken();
         isInMenu = currentPage.focusedStop === null;
         return shot.digits;
+    }
+
+    /*! The milliseconds to let pass then. */
+    function shotTime(index: int): int {
+        return currentPage.shots[index].time;
     }
 
     function nextLanguage() {

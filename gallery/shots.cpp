@@ -14,11 +14,12 @@
 
 namespace {
 
-//! Stops the time of animations and of timers in QML: no picture depends on when it was taken.
-class Standstill : public QAnimationDriver
+//! The time of animations and of timers in QML, which passes only when told: no picture depends on when it
+//! was taken.
+class Clock : public QAnimationDriver
 {
 public:
-    Standstill()
+    Clock()
     {
         install();
         // While nothing but timers is running, drivers are not asked.
@@ -28,10 +29,29 @@ public:
         m_animation.start();
     }
 
-    qint64 elapsed() const override { return 0; }
+    qint64 elapsed() const override { return m_elapsed; }
     void advance() override { }
 
+    void pass(int milliseconds)
+    {
+        constexpr int step = 10;
+        for (int passed = 0; passed < milliseconds; passed += step) {
+            deliver();
+            m_elapsed += step;
+            advanceAnimation();
+            deliver();
+        }
+    }
+
 private:
+    //! Timers start and fire by events. To start one takes two, and what a call posts is sent by the next.
+    static void deliver()
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents();
+    }
+
+    qint64 m_elapsed = 0;
     QVariantAnimation m_animation;
 };
 
@@ -62,7 +82,7 @@ void settle(const QQuickWindow &window)
     } while (timer.elapsed() < patience);
 }
 
-bool takeShot(QQuickWindow &window, int page, int shot, const QString &path)
+bool takeShot(QQuickWindow &window, Clock &clock, int page, int shot, const QString &path)
 {
     QMetaObject::invokeMethod(&window, "openPage", page);
     settle(window);
@@ -73,6 +93,14 @@ bool takeShot(QQuickWindow &window, int page, int shot, const QString &path)
         QCoreApplication::sendEvent(&window, &press);
     }
     settle(window);
+    int time = 0;
+    QMetaObject::invokeMethod(&window, "shotTime", qReturnArg(time), shot);
+    if (time > 0) {
+        // Views lay out their items with a frame, and move on from there.
+        window.grabWindow();
+        clock.pass(time);
+        settle(window);
+    }
     // What the first frame changes, such as the size of a text, is in the second.
     window.grabWindow();
     settle(window);
@@ -90,7 +118,7 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
         errors << "kelui-gallery: cannot make the folder " << folder.path() << '\n';
         return false;
     }
-    const Standstill standstill;
+    Clock clock;
     // No window system gives focus to a window that is not shown.
     window.contentItem()->setFocus(true);
     QStringList pages;
@@ -106,7 +134,7 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
         QMetaObject::invokeMethod(&window, "shotNames", qReturnArg(names));
         for (int shot = 0; shot < names.size(); ++shot) {
             const QString path = folder.filePath(names.at(shot) + QStringLiteral(".png"));
-            if (!takeShot(window, page, shot, path)) {
+            if (!takeShot(window, clock, page, shot, path)) {
                 errors << "kelui-gallery: cannot make the picture " << path << '\n';
                 return false;
             }

@@ -9,9 +9,8 @@ Generic.Button {
 
     fixedSize: Qt.size(248, 56)
     spacing: 12
-    leftPadding: 16
-    rightPadding: Math.max(leftPadding, fixedSize.width - leftPadding - leftIconSize.width - spacing
-                                        - _measure.implicitWidth)
+    leftPadding: 12
+    rightPadding: Math.max(4, fixedSize.width - leftPadding - leftIconSize.width - spacing - _measure.implicitWidth)
     titleFont: Theme.menu
     subtitleFont: Theme.caption
     textBlockSpacing: 0

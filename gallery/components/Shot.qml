@@ -11,6 +11,8 @@ QtObject {
     property string language
     /*! Digits of the remote that are pressed in the state. */
     property string digits
+    /*! Milliseconds that pass in the state; for the rest of the time clocks stand still. */
+    property int time: 0
 
     /*! Puts the page into the state. */
     signal taken

@@ -10,6 +10,7 @@ Generic.Button {
     property GalleryPage page: null
 
     focused: page !== null && page.focusedStop === _control
+    focusPolicy: Qt.NoFocus
     fixedSize: Qt.size(204, 64)
     spacing: 12
     leftPadding: 20

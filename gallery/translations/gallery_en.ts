@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>BusyIndicatorPage</name>
+    <message>
+        <source>Looking for channels</source>
+        <translation>Looking for channels</translation>
+    </message>
+    <message>
+        <source>This takes some minutes; the remote control can be laid aside</source>
+        <translation>This takes some minutes; the remote control can be laid aside</translation>
+    </message>
+    <message>
+        <source>One moment, please</source>
+        <translation>One moment, please</translation>
+    </message>
+    <message>
+        <source>Two strips of square frames, played one after the other</source>
+        <translation>Two strips of square frames, played one after the other</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>frame %1 of %2</source>
+        <translation>frame %1 of %2</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>long</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>short</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Four states, two ways to find the width, titles cut to the room left</source>
@@ -58,6 +97,95 @@
     <message>
         <source>Surround, all the loudspeakers</source>
         <translation>Surround, all the loudspeakers</translation>
+    </message>
+</context>
+<context>
+    <name>CheckBoxPage</name>
+    <message>
+        <source>A title wraps beside its box; the focus frame is around the box alone</source>
+        <translation>A title wraps beside its box; the focus frame is around the box alone</translation>
+    </message>
+    <message>
+        <source>Play the next episode</source>
+        <translation>Play the next episode</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>Subtitles in the language of the menus whenever a programme has them</source>
+        <translation>Subtitles in the language of the menus whenever a programme has them</translation>
+    </message>
+    <message>
+        <source>Only at night, and not over mobile networks</source>
+        <translation>Only at night, and not over mobile networks</translation>
+    </message>
+    <message>
+        <source>A round box, forceRounding</source>
+        <translation>A round box, forceRounding</translation>
+    </message>
+    <message>
+        <source>Not with your subscription</source>
+        <translation>Not with your subscription</translation>
+    </message>
+</context>
+<context>
+    <name>Films</name>
+    <message>
+        <source>The Last Lamp</source>
+        <translation>The Last Lamp</translation>
+    </message>
+    <message>
+        <source>First Launch</source>
+        <translation>First Launch</translation>
+    </message>
+    <message>
+        <source>Deep Song</source>
+        <translation>Deep Song</translation>
+    </message>
+    <message>
+        <source>Amber Forest</source>
+        <translation>Amber Forest</translation>
+    </message>
+    <message>
+        <source>Above the Hills</source>
+        <translation>Above the Hills</translation>
+    </message>
+    <message>
+        <source>Evening Express</source>
+        <translation>Evening Express</translation>
+    </message>
+    <message>
+        <source>Far Island</source>
+        <translation>Far Island</translation>
+    </message>
+    <message>
+        <source>Knight’s Move</source>
+        <translation>Knight’s Move</translation>
+    </message>
+</context>
+<context>
+    <name>GridPage</name>
+    <message>
+        <source>ScrolledGridView: a thousand tiles, of which those in sight exist</source>
+        <translation>ScrolledGridView: a thousand tiles, of which those in sight exist</translation>
+    </message>
+    <message>
+        <source>current: %1 of %2</source>
+        <translation>current: %1 of %2</translation>
+    </message>
+    <message>
+        <source>tiles made: %1</source>
+        <translation>tiles made: %1</translation>
+    </message>
+    <message>
+        <source>OK chooses</source>
+        <translation>OK chooses</translation>
+    </message>
+    <message>
+        <source>chosen: %1</source>
+        <translation>chosen: %1</translation>
     </message>
 </context>
 <context>
@@ -181,6 +309,120 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source>LayoutSpacer keeps items apart; MediaBlock is what blocks of posters build on</source>
+        <translation>LayoutSpacer keeps items apart; MediaBlock is what blocks of posters build on</translation>
+    </message>
+    <message>
+        <source>RowLayout, fills — OK fixes</source>
+        <translation>RowLayout, fills — OK fixes</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>ColumnLayout, fills</source>
+        <translation>ColumnLayout, fills</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Account</translation>
+    </message>
+    <message>
+        <source>Sign out</source>
+        <translation>Sign out</translation>
+    </message>
+    <message>
+        <source>Tonight, itemsHaveTitles: %1</source>
+        <translation>Tonight, itemsHaveTitles: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ListsPage</name>
+    <message>
+        <source>News</source>
+        <translation>News</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Series</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>Nature</translation>
+    </message>
+    <message>
+        <source>Science</source>
+        <translation>Science</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Travel</translation>
+    </message>
+    <message>
+        <source>Sport</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Football</source>
+        <translation>Football</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>Theatre</source>
+        <translation>Theatre</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Children</translation>
+    </message>
+    <message>
+        <source>Kitchen</source>
+        <translation>Kitchen</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Weather</translation>
+    </message>
+    <message>
+        <source>ScrolledListView and Highlight: at an edge the list scrolls after the highlight</source>
+        <translation>ScrolledListView and Highlight: at an edge the list scrolls after the highlight</translation>
+    </message>
+    <message>
+        <source>chosen film: %1</source>
+        <translation>chosen film: %1</translation>
+    </message>
+    <message>
+        <source>OK for the next duration</source>
+        <translation>OK for the next duration</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>Main</name>
     <message>
         <source>move</source>
@@ -235,6 +477,61 @@
         <extracomment>The name of the language of this translation, in itself.</extracomment>
         <translation>English</translation>
     </message>
+    <message>
+        <source>Lists</source>
+        <translation>Lists</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+</context>
+<context>
+    <name>MainMenuButtonPage</name>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Anna</source>
+        <translation>Anna</translation>
+    </message>
+    <message>
+        <source>What to watch tonight</source>
+        <translation>What to watch tonight</translation>
+    </message>
+    <message>
+        <source>Eight films, one for every evening</source>
+        <translation>Eight films, one for every evening</translation>
+    </message>
+    <message>
+        <source>On all channels, now</source>
+        <translation>On all channels, now</translation>
+    </message>
+    <message>
+        <source>Where Anna stopped watching</source>
+        <translation>Where Anna stopped watching</translation>
+    </message>
+    <message>
+        <source>Icon, text and picture; only the background grows, so that focus moves nothing</source>
+        <translation>Icon, text and picture; only the background grows, so that focus moves nothing</translation>
+    </message>
+    <message>
+        <source>autoExclusive — OK checks; focus wins over checked</source>
+        <translation>autoExclusive — OK checks; focus wins over checked</translation>
+    </message>
 </context>
 <context>
     <name>RectanglePage</name>
@@ -245,6 +542,13 @@
     <message>
         <source>roundingRadius: 40, forceRounding: %1 — OK switches</source>
         <translation>roundingRadius: 40, forceRounding: %1 — OK switches</translation>
+    </message>
+</context>
+<context>
+    <name>RewindIconPage</name>
+    <message>
+        <source>The speed of winding: left and right change it, OK plays on</source>
+        <translation>The speed of winding: left and right change it, OK plays on</translation>
     </message>
 </context>
 <context>
@@ -308,6 +612,52 @@
     <message>
         <source>Promo code: 8 characters</source>
         <translation>Promo code: 8 characters</translation>
+    </message>
+</context>
+<context>
+    <name>SpinnerIndicatorPage</name>
+    <message>
+        <source>A ring with an arc that turns, grows and shrinks</source>
+        <translation>A ring with an arc that turns, grows and shrinks</translation>
+    </message>
+    <message>
+        <source>%1 × %1, lineWidth %2</source>
+        <translation>%1 × %1, lineWidth %2</translation>
+    </message>
+    <message>
+        <source>Loading the programme guide. OK changes the lines and colours above.</source>
+        <translation>Loading the programme guide. OK changes the lines and colours above.</translation>
+    </message>
+</context>
+<context>
+    <name>TabButtonPage</name>
+    <message>
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Tomorrow</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Saturday</translation>
+    </message>
+    <message>
+        <source>The best of the week</source>
+        <translation>The best of the week</translation>
+    </message>
+    <message>
+        <source>Exclusive tabs; a long text widens its tab</source>
+        <translation>Exclusive tabs; a long text widens its tab</translation>
+    </message>
+    <message>
+        <source>checked wins</source>
+        <translation>checked wins</translation>
+    </message>
+    <message>
+        <source>minimumWidth: %1 — OK checks</source>
+        <translation>minimumWidth: %1 — OK checks</translation>
     </message>
 </context>
 <context>

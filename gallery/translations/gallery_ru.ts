@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>BusyIndicatorPage</name>
+    <message>
+        <source>Looking for channels</source>
+        <translation>Поиск каналов</translation>
+    </message>
+    <message>
+        <source>This takes some minutes; the remote control can be laid aside</source>
+        <translation>Это займёт несколько минут, пульт можно отложить</translation>
+    </message>
+    <message>
+        <source>One moment, please</source>
+        <translation>Одну минуту</translation>
+    </message>
+    <message>
+        <source>Two strips of square frames, played one after the other</source>
+        <translation>Две ленты квадратных кадров, одна за другой</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>frame %1 of %2</source>
+        <translation>кадр %1 из %2</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>длинное</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>короткое</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Four states, two ways to find the width, titles cut to the room left</source>
@@ -58,6 +97,95 @@
     <message>
         <source>Surround, all the loudspeakers</source>
         <translation>Объёмный, из всех колонок</translation>
+    </message>
+</context>
+<context>
+    <name>CheckBoxPage</name>
+    <message>
+        <source>A title wraps beside its box; the focus frame is around the box alone</source>
+        <translation>Название переносится; рамка фокуса — только вокруг флажка</translation>
+    </message>
+    <message>
+        <source>Play the next episode</source>
+        <translation>Включать следующую серию</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Загрузки</translation>
+    </message>
+    <message>
+        <source>Subtitles in the language of the menus whenever a programme has them</source>
+        <translation>Субтитры на языке меню, если они есть у передачи</translation>
+    </message>
+    <message>
+        <source>Only at night, and not over mobile networks</source>
+        <translation>Только ночью и не через мобильную сеть</translation>
+    </message>
+    <message>
+        <source>A round box, forceRounding</source>
+        <translation>Круглый флажок, forceRounding</translation>
+    </message>
+    <message>
+        <source>Not with your subscription</source>
+        <translation>Нет в вашей подписке</translation>
+    </message>
+</context>
+<context>
+    <name>Films</name>
+    <message>
+        <source>The Last Lamp</source>
+        <translation>Последний фонарь</translation>
+    </message>
+    <message>
+        <source>First Launch</source>
+        <translation>Первый старт</translation>
+    </message>
+    <message>
+        <source>Deep Song</source>
+        <translation>Песнь глубин</translation>
+    </message>
+    <message>
+        <source>Amber Forest</source>
+        <translation>Янтарный лес</translation>
+    </message>
+    <message>
+        <source>Above the Hills</source>
+        <translation>Над холмами</translation>
+    </message>
+    <message>
+        <source>Evening Express</source>
+        <translation>Вечерний экспресс</translation>
+    </message>
+    <message>
+        <source>Far Island</source>
+        <translation>Далёкий остров</translation>
+    </message>
+    <message>
+        <source>Knight’s Move</source>
+        <translation>Ход конём</translation>
+    </message>
+</context>
+<context>
+    <name>GridPage</name>
+    <message>
+        <source>ScrolledGridView: a thousand tiles, of which those in sight exist</source>
+        <translation>ScrolledGridView: тысяча плиток, созданы только видимые</translation>
+    </message>
+    <message>
+        <source>current: %1 of %2</source>
+        <translation>текущая: %1 из %2</translation>
+    </message>
+    <message>
+        <source>tiles made: %1</source>
+        <translation>создано плиток: %1</translation>
+    </message>
+    <message>
+        <source>OK chooses</source>
+        <translation>OK выбирает</translation>
+    </message>
+    <message>
+        <source>chosen: %1</source>
+        <translation>выбрана: %1</translation>
     </message>
 </context>
 <context>
@@ -181,6 +309,120 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source>LayoutSpacer keeps items apart; MediaBlock is what blocks of posters build on</source>
+        <translation>LayoutSpacer раздвигает элементы, MediaBlock — основа для блоков с постерами</translation>
+    </message>
+    <message>
+        <source>RowLayout, fills — OK fixes</source>
+        <translation>RowLayout, заполняет — OK фиксирует</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Звук</translation>
+    </message>
+    <message>
+        <source>ColumnLayout, fills</source>
+        <translation>ColumnLayout, заполняет</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Профиль</translation>
+    </message>
+    <message>
+        <source>Sign out</source>
+        <translation>Выйти</translation>
+    </message>
+    <message>
+        <source>Tonight, itemsHaveTitles: %1</source>
+        <translation>Вечером, itemsHaveTitles: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ListsPage</name>
+    <message>
+        <source>News</source>
+        <translation>Новости</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Фильмы</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Сериалы</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>Природа</translation>
+    </message>
+    <message>
+        <source>Science</source>
+        <translation>Наука</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Путешествия</translation>
+    </message>
+    <message>
+        <source>Sport</source>
+        <translation>Спорт</translation>
+    </message>
+    <message>
+        <source>Football</source>
+        <translation>Футбол</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>Theatre</source>
+        <translation>Театр</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Детям</translation>
+    </message>
+    <message>
+        <source>Kitchen</source>
+        <translation>Кухня</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Погода</translation>
+    </message>
+    <message>
+        <source>ScrolledListView and Highlight: at an edge the list scrolls after the highlight</source>
+        <translation>ScrolledListView и Highlight: у края список едет вслед за выделением</translation>
+    </message>
+    <message>
+        <source>chosen film: %1</source>
+        <translation>выбран фильм: %1</translation>
+    </message>
+    <message>
+        <source>OK for the next duration</source>
+        <translation>OK — другое время</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+</context>
+<context>
     <name>Main</name>
     <message>
         <source>move</source>
@@ -235,6 +477,61 @@
         <extracomment>The name of the language of this translation, in itself.</extracomment>
         <translation>Русский</translation>
     </message>
+    <message>
+        <source>Lists</source>
+        <translation>Списки</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Сетка</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Раскладка</translation>
+    </message>
+</context>
+<context>
+    <name>MainMenuButtonPage</name>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Фильмы</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Эфир</translation>
+    </message>
+    <message>
+        <source>Anna</source>
+        <translation>Анна</translation>
+    </message>
+    <message>
+        <source>What to watch tonight</source>
+        <translation>Что посмотреть вечером</translation>
+    </message>
+    <message>
+        <source>Eight films, one for every evening</source>
+        <translation>Восемь фильмов, по одному на вечер</translation>
+    </message>
+    <message>
+        <source>On all channels, now</source>
+        <translation>Сейчас на всех каналах</translation>
+    </message>
+    <message>
+        <source>Where Anna stopped watching</source>
+        <translation>Анна ещё не досмотрела</translation>
+    </message>
+    <message>
+        <source>Icon, text and picture; only the background grows, so that focus moves nothing</source>
+        <translation>Значок, текст и картинка; растёт лишь фон, и фокус ничего не сдвигает</translation>
+    </message>
+    <message>
+        <source>autoExclusive — OK checks; focus wins over checked</source>
+        <translation>autoExclusive — OK выбирает; focused важнее, чем checked</translation>
+    </message>
 </context>
 <context>
     <name>RectanglePage</name>
@@ -245,6 +542,13 @@
     <message>
         <source>roundingRadius: 40, forceRounding: %1 — OK switches</source>
         <translation>roundingRadius: 40, forceRounding: %1 — OK переключает</translation>
+    </message>
+</context>
+<context>
+    <name>RewindIconPage</name>
+    <message>
+        <source>The speed of winding: left and right change it, OK plays on</source>
+        <translation>Скорость перемотки: влево и вправо меняют её, OK — обычная</translation>
     </message>
 </context>
 <context>
@@ -308,6 +612,52 @@
     <message>
         <source>Promo code: 8 characters</source>
         <translation>Промокод: нужно 8 символов</translation>
+    </message>
+</context>
+<context>
+    <name>SpinnerIndicatorPage</name>
+    <message>
+        <source>A ring with an arc that turns, grows and shrinks</source>
+        <translation>Кольцо с дугой, которая вращается, растёт и сжимается</translation>
+    </message>
+    <message>
+        <source>%1 × %1, lineWidth %2</source>
+        <translation>%1 × %1, lineWidth %2</translation>
+    </message>
+    <message>
+        <source>Loading the programme guide. OK changes the lines and colours above.</source>
+        <translation>Загрузка программы передач. OK меняет толщину и цвет выше.</translation>
+    </message>
+</context>
+<context>
+    <name>TabButtonPage</name>
+    <message>
+        <source>Today</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Завтра</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Суббота</translation>
+    </message>
+    <message>
+        <source>The best of the week</source>
+        <translation>Лучшее за неделю</translation>
+    </message>
+    <message>
+        <source>Exclusive tabs; a long text widens its tab</source>
+        <translation>Выбрана одна вкладка; длинный текст её расширяет</translation>
+    </message>
+    <message>
+        <source>checked wins</source>
+        <translation>checked важнее</translation>
+    </message>
+    <message>
+        <source>minimumWidth: %1 — OK checks</source>
+        <translation>minimumWidth: %1 — OK выбирает</translation>
     </message>
 </context>
 <context>
