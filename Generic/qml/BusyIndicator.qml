@@ -40,9 +40,12 @@ Item {
 
     // Deliberately without the width of the description.
     implicitWidth: Math.max(_canvas.width, _header.width)
-    implicitHeight: _canvas.y + _canvas.height
 
-    Component.onCompleted: _private.isComplete = true
+    onHeightChanged: _private.fit()
+    Component.onCompleted: {
+        _private.isComplete = true;
+        _private.fit();
+    }
 
     QtObject {
         id: _private
@@ -50,6 +53,14 @@ Item {
         // A label loses its textWidth when it is complete; told again afterwards, it stays.
         property bool isComplete: false
         readonly property real room: isComplete ? _busyIndicator.parent?.width ?? NaN : 0
+
+        // The viewport's bottom. Not a binding, which would loop: in the item's own height the viewport
+        // is centred in what comes of this, and then fills it.
+        function fit() {
+            _busyIndicator.implicitHeight = _canvas.height;
+            if (_busyIndicator.height !== _busyIndicator.implicitHeight)
+                _busyIndicator.implicitHeight = _canvas.y + _canvas.height;
+        }
     }
 
     Timer {
@@ -114,6 +125,8 @@ Item {
         height: _right.height
         color: "transparent"
         clip: true
+
+        onHeightChanged: _private.fit()
 
         Image {
             id: _left

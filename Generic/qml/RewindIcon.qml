@@ -24,7 +24,7 @@ Item {
     property real currentIconOpacity: 1.0
     property real otherIconOpacity: 0.5
     /*! Size in which the arrows are decoded, in pixels, read once at creation. */
-    property size iconSize: "57x57"
+    property size iconSize: Qt.size(57, 57)
     /*! Pixels between the arrows. */
     property int iconSpacing: 9
     /*! Pixels between the arrows and the text. */
@@ -62,7 +62,7 @@ Item {
         id: _private
 
         // Of a real, because the lowest int has no counterpart above 0.
-        readonly property real factor: Math.abs(_rewindIcon.speed * 1.0)
+        readonly property real factor: _rewindIcon.speed < 0 ? -1.0 * _rewindIcon.speed : _rewindIcon.speed
 
         // Deliberately unlike: forward shows a dark beat after the last arrow, rewind none.
         function step() {

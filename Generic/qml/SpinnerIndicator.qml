@@ -30,12 +30,12 @@ Canvas {
         const radius = Math.min(width, height) / 2 - lineWidth / 2;
         const start = (startDeg + rotationDeg - 90) / 180 * Math.PI;
         const end = (endDeg + rotationDeg - 90) / 180 * Math.PI;
-        context.lineWidth = lineWidth;
-        context.lineCap = "round";
         context.clearRect(0, 0, width, height);
         // A line thicker than the ring is wide draws nothing.
         if (radius < 0)
             return;
+        context.lineWidth = lineWidth;
+        context.lineCap = "round";
         context.strokeStyle = backgroundColor;
         context.beginPath();
         context.arc(width / 2, height / 2, radius, 0, 2 * Math.PI, false);

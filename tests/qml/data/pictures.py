@@ -29,3 +29,6 @@ write("pixels.png", 4, 2, lambda x, y: [(WHITE, HALF_WHITE, BLACK, NOTHING), (RE
 write("icon.png", 24, 16, lambda x, y: WHITE)
 # Cells of 50 by 50 pixels, each in a colour of its own.
 write("grid.png", 300, 200, lambda x, y: (x // 50 * 40, y // 50 * 60, 255, 255))
+# Strips of frames of 60 by 60 pixels. A pixel tells its frame (red), its column there (green) and its strip (blue).
+for name, width, blue in (("strip_right", 480, 0), ("strip_left", 480, 255), ("strip_short", 110, 0)):
+    write(name + ".png", width, 60, lambda x, y, blue=blue: (x // 60 * 30, x % 60 * 4, blue, 255))
