@@ -85,6 +85,9 @@ HomeZone {
             pictureSize: Qt.size(214, 120)
         }
 
-        onModelChanged: currentIndex = _zone.currentIndex
+        onModelChanged: {
+            currentIndex = _zone.currentIndex;
+            positionViewAtIndex(currentIndex, GridView.Center);
+        }
     }
 }

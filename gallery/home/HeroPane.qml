@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 import Kelui.Gallery
-import Kelui.UI.Qml.Controls.Generic as Generic
 
 /*! The film that the viewer is at, large. While the viewer hurries past films, it waits. */
 Item {
@@ -30,22 +29,6 @@ Item {
         width: 800
         height: 450
         film: _pane.shownFilm
-    }
-
-    // The menu is above.
-    Generic.Rectangle {
-        width: parent.width
-        height: 150
-        gradient: Gradient {
-            GradientStop {
-                position: 0
-                color: HomeTheme.shade
-            }
-            GradientStop {
-                position: 1
-                color: "#000d121a"
-            }
-        }
     }
 
     FilmSummary {

@@ -59,6 +59,9 @@ HomeZone {
             isZoneActive: _zone.isActive
         }
 
-        onModelChanged: currentIndex = _zone.shelf.currentIndex
+        onModelChanged: {
+            currentIndex = _zone.shelf.currentIndex;
+            positionViewAtIndex(currentIndex, ListView.Beginning);
+        }
     }
 }

@@ -59,14 +59,6 @@ HomeZone {
         }
     }
 
-    FilmBackdrop {
-        x: 480
-        y: -_zone.y
-        width: 800
-        height: 450
-        film: 9
-    }
-
     Label {
         x: HomeTheme.sideMargin
         font: HomeTheme.title

@@ -311,6 +311,31 @@ GalleryPage {
             film: _page.homeShelf.currentFilm
         }
 
+        FilmBackdrop {
+            x: 480
+            width: 800
+            height: 450
+            visible: _settings.isShown
+            film: 5
+        }
+
+        // For the menu above pictures.
+        Generic.Rectangle {
+            width: parent.width
+            height: 150
+            visible: _home.isShown || _settings.isShown
+            gradient: Gradient {
+                GradientStop {
+                    position: 0
+                    color: HomeTheme.shade
+                }
+                GradientStop {
+                    position: 1
+                    color: "#000d121a"
+                }
+            }
+        }
+
         Generic.Rectangle {
             x: HomeTheme.sideMargin
             y: 45

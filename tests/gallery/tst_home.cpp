@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QtCore/QMetaEnum>
 #include <QtCore/QRandomGenerator>
-#include <QtCore/QSet>
 #include <QtGui/QFont>
 #include <QtGui/QKeyEvent>
 #include <QtQml/QQmlApplicationEngine>
@@ -24,7 +23,8 @@ bool isFocused(const QQuickItem &item)
 }
 
 //! Calls a function with an item and all below it, until the function does not want what is below.
-template <typename Function> void visit(QQuickItem &item, const Function &function)
+template <typename Function>
+void visit(QQuickItem &item, const Function &function)
 {
     if (!function(item))
         return;
@@ -163,7 +163,8 @@ void tst_home::openSection(int section)
 
 QString tst_home::zoneName() const
 {
-    return zone() ? QString::fromLatin1(zone()->metaObject()->className()).section(u"_QML"_s, 0, 0) : QString();
+    return zone() ? QString::fromLatin1(zone()->metaObject()->className()).section(u"_QML"_s, 0, 0)
+                  : QString();
 }
 
 QObject *tst_home::theme(const char *name) const
@@ -222,17 +223,19 @@ void tst_home::takesTheWindow()
 void tst_home::rowsKeepTheirPlaces()
 {
     QList<int> films;
+    QList<int> indexes;
     constexpr int rows = 6;
     // So far apart that rows go and come again on the way.
     for (int row = 0; row < rows; ++row) {
-        press(Qt::Key_Right, row + 1);
+        press(Qt::Key_Right, row % 2 == 0 ? 20 : row + 1);
         films += film();
+        indexes += focused()->property("index").toInt();
         if (row < rows - 1)
             press(Qt::Key_Down);
     }
     for (int row = rows - 1; row >= 0; --row) {
         QCOMPARE(film(), films.at(row));
-        QCOMPARE(focused()->property("index").toInt(), row + 1);
+        QCOMPARE(focused()->property("index").toInt(), indexes.at(row));
         press(Qt::Key_Up);
     }
     QCOMPARE(zoneName(), u"MenuZone"_s);
@@ -580,19 +583,21 @@ void tst_home::walksAtRandom()
     QFETCH(const uint, seed);
     constexpr int presses = 2000;
     // Each as often as it is in the list.
-    const QList<int> keys{Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right,
-        Qt::Key_Right, Qt::Key_Right, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down,
-        Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return, Qt::Key_Return, Qt::Key_Return,
-        Qt::Key_Back, Qt::Key_MediaPlay, Qt::Key_MediaTogglePlayPause, Qt::Key_AudioForward,
-        Qt::Key_AudioRewind};
+    const QList<int> keys{Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Right, Qt::Key_Right,
+        Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up,
+        Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return,
+        Qt::Key_Return, Qt::Key_Return, Qt::Key_Back, Qt::Key_Back, Qt::Key_MediaPlay,
+        Qt::Key_MediaTogglePlayPause, Qt::Key_AudioForward, Qt::Key_AudioRewind};
     QRandomGenerator random(seed);
     QStringList history;
-    QSet<QString> seen;
+    QStringList seen;
     for (int i = 0; i < presses; ++i) {
         const int key = keys.at(random.bounded(keys.size()));
         const bool isLeaving = key == Qt::Key_Back && page()->property("isAtTop").toBool();
-        history += u"%1 in %2"_s.arg(QLatin1String(QMetaEnum::fromType<Qt::Key>().valueToKey(key)), zoneName());
-        seen += zoneName();
+        history +=
+            u"%1 in %2"_s.arg(QLatin1String(QMetaEnum::fromType<Qt::Key>().valueToKey(key)), zoneName());
+        if (!seen.contains(zoneName()))
+            seen += zoneName();
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         QCoreApplication::sendEvent(m_window, &event);
         // Some presses come while the screen still moves.
@@ -612,13 +617,13 @@ void tst_home::walksAtRandom()
             continue;
         settle();
         const QString wrong = whatIsWrong();
-        QVERIFY2(wrong.isEmpty(), qPrintable(u"%1, after %2 presses from the seed %3, the last of which were: %4"_s
-                .arg(wrong)
-                .arg(i + 1)
-                .arg(seed)
-                .arg(history.last(std::min<qsizetype>(20, history.size())).join(u", "_s))));
+        QVERIFY2(wrong.isEmpty(),
+            qPrintable(u"%1, after %2 presses from the seed %3, the last of which were: %4"_s.arg(wrong)
+                    .arg(i + 1)
+                    .arg(seed)
+                    .arg(history.last(std::min<qsizetype>(20, history.size())).join(u", "_s))));
     }
-    qInfo("seed %u: %d presses through %s", seed, presses, qPrintable(QStringList(seen.values()).join(u", "_s)));
+    qInfo("seed %u: %d presses through %s", seed, presses, qPrintable(seen.join(u", "_s)));
 }
 
 QTEST_MAIN(tst_home)
