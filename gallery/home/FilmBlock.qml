@@ -38,9 +38,6 @@ Generic.MediaBlock {
     /*! To the next film of the row; at its ends, nowhere. */
     function move(step: int) {
         modelData.currentIndex = Math.max(0, Math.min(modelData.currentIndex + step, modelData.films.length - 1));
-        _films.currentIndex = modelData.currentIndex;
-        if (!Theme.isAnimated)
-            _films.positionViewAtIndex(_films.currentIndex, ListView.Contain);
     }
 
     Label {

@@ -72,11 +72,12 @@ HomeZone {
         elementHeight: HomeTheme.areTitlesShown ? 168 : 134
         horizontalSpacing: 6
         verticalSpacing: 8
+        bottomMargin: HomeTheme.bottomMargin
         clip: true
         interactive: false
         highlightRangeMode: GridView.ApplyRange
         preferredHighlightBegin: 0
-        preferredHighlightEnd: height - HomeTheme.bottomMargin
+        preferredHighlightEnd: height - bottomMargin
         highlightMoveDuration: Theme.isAnimated ? 200 : 0
         model: _zone.isShown ? FilmCatalogue.count : 0
         delegate: FilmTile {
