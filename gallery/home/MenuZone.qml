@@ -56,7 +56,7 @@ HomeZone {
                 text: modelData
                 textFont: Theme.controlFont(22, Font.DemiBold)
                 leftIconSource: Theme.icon(["menu-home", "menu-films", "menu-grid", "menu-settings"][index])
-                backgroundColors: ["transparent", HomeTheme.shade, Theme.text]
+                backgroundColors: ["transparent", "transparent", Theme.text]
                 textColors: [Theme.text, Theme.accent, Theme.ink]
                 leftIconColors: textColors
                 animateBackgroundColors: Theme.isAnimated
