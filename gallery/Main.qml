@@ -22,6 +22,13 @@ Window {
 
     readonly property list<PageEntry> pages: [
         PageEntry {
+            name: "Home"
+            title: qsTr("Home")
+            icon: "television"
+
+            HomePage {}
+        },
+        PageEntry {
             name: "Text"
             icon: "text"
 
@@ -380,10 +387,16 @@ Window {
         Loader {
             id: _loader
 
-            x: _scene.pageX
-            y: 152
-            width: 840
-            height: 484
+            readonly property bool isFullScreen: _window.currentPage?.isFullScreen ?? false
+            readonly property bool isPreview: isFullScreen && _window.isInMenu
+
+            x: isFullScreen && !isPreview ? 0 : _scene.pageX
+            y: isFullScreen && !isPreview ? 0 : 152
+            z: 1
+            width: isFullScreen ? _scene.width : 840
+            height: isFullScreen ? _scene.height : 484
+            transformOrigin: Item.TopLeft
+            scale: isPreview ? 840 / _scene.width : 1
             sourceComponent: _window.currentIndex >= 0 ? _window.pages[_window.currentIndex].page : null
 
             // Why is on the console already; a window without its page would be no help.

@@ -12,6 +12,8 @@ Item {
 
     /*! A line below the title. */
     property string caption: ""
+    /*! Whether the page takes the whole window while it has the keys. Beside the menu it is shown small. */
+    property bool isFullScreen: false
     /*! The pictures of this page. */
     property list<Shot> shots
     /*! The control in focus, or null while the menu has it. */

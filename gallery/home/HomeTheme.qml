@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+pragma Singleton
+
+import QtQuick
+import Kelui.Gallery
+
+/*! Sizes and type of the home screen, which is read from the sofa, and what its settings change. */
+QtObject {
+    id: _theme
+
+    property bool isTextLarge: false
+    property bool areTitlesShown: true
+    /*! Pixels of the window to one of the design, so that pictures are decoded as large as they are shown. */
+    property real pixelRatio: 1
+
+    /*! What a television may cut off. */
+    readonly property int sideMargin: 64
+    readonly property int topMargin: 36
+    readonly property int bottomMargin: 36
+    /*! Of a row of films with its title. One for all, so that each comes to stand where the last one was. */
+    readonly property int rowHeight: 232
+    /*! Between a picture and the frame around it when it is in focus. */
+    readonly property int framePadding: 7
+
+    readonly property color shade: "#c00d121a"
+    readonly property font title: contentFont(48, Font.Bold)
+    readonly property font details: contentFont(22, Font.DemiBold)
+    readonly property font description: contentFont(22, Font.Normal)
+    readonly property font row: contentFont(24, Font.Bold)
+    readonly property font tile: contentFont(19, Font.DemiBold)
+    readonly property font rank: Theme.sizedFont(190, Font.Bold)
+    readonly property font button: Theme.controlFont(22, Font.DemiBold)
+
+    readonly property var buttonBackgrounds: ({
+        disabled: Theme.panel, checked: Theme.text, focused: Theme.text, normal: Theme.raised
+    })
+    readonly property var buttonTitles: ({
+        disabled: Theme.disabledText, checked: Theme.ink, focused: Theme.ink, normal: Theme.text
+    })
+    readonly property var boxes: ({
+        disabled: Theme.panel, checked: Theme.positive, focused: Theme.outline, normal: Theme.outline
+    })
+    readonly property var boxTitles: ({
+        disabled: Theme.disabledText, checked: Theme.text, focused: Theme.text, normal: Theme.text
+    })
+
+    function contentFont(pixelSize: int, weight: int): font {
+        return Theme.sizedFont(isTextLarge ? pixelSize * 1.2 : pixelSize, weight);
+    }
+
+    /*! In which a picture is decoded that is shown so large. */
+    function decodedSize(width: real, height: real): size {
+        return Qt.size(Math.round(width * pixelRatio), Math.round(height * pixelRatio));
+    }
+}

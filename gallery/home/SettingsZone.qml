@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kelui.Gallery
+import Kelui.UI.Qml.Controls.Generic as Generic
+
+/*! Check boxes, each of which changes the home screen at once. */
+HomeZone {
+    id: _zone
+
+    readonly property list<Item> boxes: [_animation, _largeText, _titles, _russian]
+    property int currentIndex: 0
+
+    focusedItem: boxes[currentIndex]
+
+    function handleKey(key: int): bool {
+        switch (key) {
+        case Qt.Key_Up:
+            return move(-1);
+        case Qt.Key_Down:
+            return move(1);
+        case Qt.Key_Return:
+            (boxes[currentIndex] as Generic.CheckBox).click();
+            return true;
+        }
+        return false;
+    }
+
+    function move(step: int): bool {
+        if (currentIndex + step < 0 || currentIndex + step >= boxes.length)
+            return false;
+        currentIndex += step;
+        return true;
+    }
+
+    component Box: Generic.CheckBox {
+        id: _box
+
+        focused: _zone.isActive && _zone.focusedItem === _box
+        width: 640
+        height: 60
+        leftInset: -20
+        topInset: -10
+        bottomInset: -10
+        indicatorSize: Qt.size(48, 48)
+        indicatorColors: HomeTheme.boxes
+        iconPath: Theme.icon("check")
+        iconColors: HomeTheme.boxTitles
+        titleFont: HomeTheme.button
+        titleColors: HomeTheme.boxTitles
+
+        background: Generic.Rectangle {
+            color: _box.focused ? Theme.raised : Theme.panel
+
+            FocusFrame {
+                focused: _box.focused
+            }
+        }
+    }
+
+    Label {
+        x: HomeTheme.sideMargin
+        font: HomeTheme.title
+        text: qsTr("Settings")
+    }
+
+    Column {
+        x: HomeTheme.sideMargin + 20
+        y: 100
+        spacing: 36
+
+        Box {
+            id: _animation
+
+            checked: Theme.isAnimated
+            text: qsTr("Smooth scrolling and colours")
+
+            onClicked: Theme.isAnimated = checked
+        }
+
+        Box {
+            id: _largeText
+
+            checked: HomeTheme.isTextLarge
+            text: qsTr("Large text")
+
+            onClicked: HomeTheme.isTextLarge = checked
+        }
+
+        Box {
+            id: _titles
+
+            checked: HomeTheme.areTitlesShown
+            text: qsTr("Titles below the pictures")
+
+            onClicked: HomeTheme.areTitlesShown = checked
+        }
+
+        Box {
+            id: _russian
+
+            enabled: Language.codes.length > 1
+            checked: Language.code === "ru"
+            text: "Русский язык"
+
+            onClicked: Language.code = checked ? "ru" : "en"
+        }
+    }
+}

@@ -1,0 +1,468 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kelui.Gallery
+import Kelui.UI.Qml.Controls.Generic as Generic
+
+/*! A home screen as a product has it: it takes the whole window, and has zones instead of stops. */
+GalleryPage {
+    id: _page
+
+    readonly property HomeZone currentZone: focusedStop as HomeZone
+    /*! The one item in focus; null while the gallery's menu has the keys. */
+    readonly property Item focusedItem: currentZone?.focusedItem ?? null
+    /*! Whether Back leaves the home screen. */
+    readonly property bool isAtTop: currentZone !== null && currentZone.back === null
+
+    /*! The film that was chosen last, and where. */
+    property int film: 0
+    property HomeZone origin: _home
+
+    readonly property FilmShelf homeShelf: FilmShelf {
+        rows: [
+            FilmRow {
+                title: qsTr("New this week")
+                films: [0, 2, 1, 7, 4, 9, 5, 10, 3, 11, 8, 6]
+            },
+            FilmRow {
+                title: qsTr("Continue watching")
+                films: [8, 3, 5, 26, 11, 14, 6]
+            },
+            FilmRow {
+                title: qsTr("Top 10 today")
+                films: [4, 1, 10, 0, 6, 7, 2, 8, 5, 3]
+                isRanked: true
+            },
+            FilmRow {
+                title: qsTr("For the whole family")
+                films: [7, 11, 5, 19, 23, 31, 35, 43]
+            },
+            FilmRow {
+                title: qsTr("Far from home")
+                films: [9, 3, 0, 12, 15, 21, 24, 27, 33, 36]
+            },
+            FilmRow {
+                title: qsTr("For a rainy evening")
+                films: [6, 8, 1, 13, 18, 20, 25, 30, 32]
+            }
+        ]
+    }
+
+    readonly property list<FilmShelf> filmShelves: [
+        FilmShelf {
+            title: qsTr("Popular")
+            rows: [
+                FilmRow {
+                    title: qsTr("Everybody watches")
+                    films: [2, 4, 6, 8, 10, 0, 1, 3, 5, 7, 9, 11]
+                },
+                FilmRow {
+                    title: qsTr("Critics recommend")
+                    films: [6, 1, 0, 30, 44, 57, 61, 70]
+                },
+                FilmRow {
+                    title: qsTr("Hidden treasures")
+                    films: [50, 63, 76, 89, 102, 115, 128, 141]
+                }
+            ]
+        },
+        FilmShelf {
+            title: qsTr("Drama")
+            rows: [
+                FilmRow {
+                    title: qsTr("Strong characters")
+                    films: [1, 6, 8, 13, 18, 20, 25, 30]
+                },
+                FilmRow {
+                    title: qsTr("True stories")
+                    films: [44, 37, 54, 56, 49, 42]
+                },
+                FilmRow {
+                    title: qsTr("Family secrets")
+                    films: [61, 66, 68, 73, 78, 80, 85]
+                }
+            ]
+        },
+        FilmShelf {
+            title: qsTr("Adventure")
+            rows: [
+                FilmRow {
+                    title: qsTr("Over land and sea")
+                    films: [0, 3, 9, 12, 15, 21, 24, 27]
+                },
+                FilmRow {
+                    title: qsTr("Against the clock")
+                    films: [33, 36, 39, 45, 48, 51]
+                },
+                FilmRow {
+                    title: qsTr("Under open skies")
+                    films: [60, 57, 63, 69, 72, 75]
+                }
+            ]
+        },
+        FilmShelf {
+            title: qsTr("Science fiction")
+            rows: [
+                FilmRow {
+                    title: qsTr("Other worlds")
+                    films: [2, 4, 10, 14, 16, 22, 26]
+                },
+                FilmRow {
+                    title: qsTr("The day after tomorrow")
+                    films: [28, 34, 38, 40, 46, 50]
+                },
+                FilmRow {
+                    title: qsTr("Machines that think")
+                    films: [62, 52, 58, 64, 74, 70]
+                }
+            ]
+        },
+        FilmShelf {
+            title: qsTr("Family")
+            rows: [
+                FilmRow {
+                    title: qsTr("Together on the sofa")
+                    films: [5, 7, 11, 17, 19, 23, 29]
+                },
+                FilmRow {
+                    title: qsTr("For the youngest")
+                    films: [31, 35, 41, 43, 47, 53]
+                },
+                FilmRow {
+                    title: qsTr("A good laugh")
+                    films: [55, 59, 65, 67, 71, 77]
+                }
+            ]
+        }
+    ]
+
+    isFullScreen: true
+    caption: qsTr("A product's home screen, made of the module's controls: OK opens it")
+    shots: [
+        Shot {
+            name: "Home-preview"
+        },
+        Shot {
+            name: "Home"
+
+            onTaken: _page.begin([])
+        },
+        Shot {
+            name: "Home-menu"
+
+            onTaken: _page.begin([Qt.Key_Back, Qt.Key_Right])
+        },
+        Shot {
+            name: "Home-rows"
+
+            onTaken: _page.begin([Qt.Key_Right, Qt.Key_Down, Qt.Key_Down, Qt.Key_Right, Qt.Key_Right])
+        },
+        Shot {
+            name: "Home-films"
+
+            onTaken: {
+                _page.begin([Qt.Key_Back, Qt.Key_Right, Qt.Key_Return, Qt.Key_Right, Qt.Key_Return]);
+                _page.press([Qt.Key_Right]);
+            }
+        },
+        Shot {
+            name: "Home-grid"
+
+            onTaken: {
+                _page.begin([Qt.Key_Back, Qt.Key_Right, Qt.Key_Right, Qt.Key_Return]);
+                _page.press(Array(40).fill(Qt.Key_Down).concat([Qt.Key_Right, Qt.Key_Right]));
+            }
+        },
+        Shot {
+            name: "Home-settings"
+
+            onTaken: {
+                _page.begin([Qt.Key_Back, Qt.Key_Right, Qt.Key_Right, Qt.Key_Right, Qt.Key_Return]);
+                _page.press([Qt.Key_Down]);
+            }
+        },
+        Shot {
+            name: "Home-busy"
+
+            onTaken: _page.begin([Qt.Key_Right, Qt.Key_Right, Qt.Key_Return])
+        },
+        Shot {
+            name: "Home-details"
+
+            onTaken: _page.showDetails([Qt.Key_Right, Qt.Key_Right, Qt.Key_Return])
+        },
+        Shot {
+            name: "Home-rewind"
+
+            onTaken: {
+                _page.showDetails([Qt.Key_Right, Qt.Key_Right, Qt.Key_Right, Qt.Key_Return]);
+                _page.press([Qt.Key_Return, Qt.Key_Right, Qt.Key_Right, Qt.Key_Right]);
+                _player.position = 2315;
+            }
+        },
+        Shot {
+            name: "Home-ru"
+            language: "ru"
+
+            onTaken: _page.begin([Qt.Key_Right, Qt.Key_Right, Qt.Key_Right])
+        }
+    ]
+
+    function focusFirst(): bool {
+        focusedStop = sectionZone();
+        return true;
+    }
+
+    /*! The zone that a section begins with. */
+    function sectionZone(): HomeZone {
+        return [_home, _tabs, _grid, _settings][_menu.section];
+    }
+
+    function handleKey(key: int, text: string): bool {
+        const plainKey = plain(key);
+        if (currentZone.handleKey(plainKey))
+            return true;
+        switch (plainKey) {
+        case Qt.Key_Up:
+            focusZone(currentZone.above);
+            return true;
+        case Qt.Key_Down:
+            focusZone(currentZone.below);
+            return true;
+        case Qt.Key_Left:
+        case Qt.Key_Right:
+        case Qt.Key_Return:
+            return true;
+        case Qt.Key_Back:
+            return focusZone(currentZone.back);
+        }
+        return false;
+    }
+
+    /*! Different remotes send different keys for OK and Back. */
+    function plain(key: int): int {
+        switch (key) {
+        case Qt.Key_Enter:
+        case Qt.Key_Select:
+            return Qt.Key_Return;
+        case Qt.Key_Escape:
+        case Qt.Key_Backspace:
+            return Qt.Key_Back;
+        }
+        return key;
+    }
+
+    function focusZone(zone: HomeZone): bool {
+        if (!zone)
+            return false;
+        focusedStop = zone;
+        return true;
+    }
+
+    function openSection(section: int) {
+        _menu.section = section;
+        focusZone(sectionZone());
+    }
+
+    function choose(number: int) {
+        film = number;
+        origin = currentZone;
+        focusZone(_busy);
+    }
+
+    /*! For pictures: presses keys one after the other. */
+    function press(keys: list<int>) {
+        for (const key of keys)
+            handleKey(key, "");
+    }
+
+    function begin(keys: list<int>) {
+        focusFirst();
+        press(keys);
+    }
+
+    /*! For pictures: as if the wait for the film that the keys choose were over. */
+    function showDetails(keys: list<int>) {
+        begin(keys);
+        focusZone(_details);
+    }
+
+    Binding {
+        target: HomeTheme
+        property: "pixelRatio"
+        value: Math.max(1, (_page.Window.height ?? 720) / 720)
+    }
+
+    Generic.Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+
+    Item {
+        id: _browsing
+
+        anchors.fill: parent
+        visible: !_busy.isActive && !_details.isActive && !_player.isActive
+
+        HeroPane {
+            anchors.fill: parent
+            visible: _home.isShown
+            film: _page.homeShelf.currentFilm
+        }
+
+        FilmBackdrop {
+            x: 480
+            width: 800
+            height: 450
+            visible: _settings.isShown
+            film: 5
+        }
+
+        // For the menu above pictures.
+        Generic.Rectangle {
+            width: parent.width
+            height: 150
+            visible: _home.isShown || _settings.isShown
+            gradient: Gradient {
+                GradientStop {
+                    position: 0
+                    color: HomeTheme.shade
+                }
+                GradientStop {
+                    position: 1
+                    color: "#000d121a"
+                }
+            }
+        }
+
+        Generic.Rectangle {
+            x: HomeTheme.sideMargin
+            y: 45
+            width: 10
+            height: 34
+            color: Theme.accent
+        }
+
+        Label {
+            x: HomeTheme.sideMargin + 22
+            y: 37
+            font: Theme.display
+            text: "Kelui"
+        }
+
+        MenuZone {
+            id: _menu
+
+            page: _page
+            x: 236
+            y: 36
+            below: _page.sectionZone()
+
+            onChosen: section => _page.openSection(section)
+        }
+
+        RowsZone {
+            id: _home
+
+            page: _page
+            y: 402
+            width: 1280
+            height: 318
+            isShown: _menu.section === 0
+            shelf: _page.homeShelf
+            above: _menu
+            back: _menu
+
+            onChosen: film => _page.choose(film)
+        }
+
+        TabsZone {
+            id: _tabs
+
+            page: _page
+            x: HomeTheme.sideMargin
+            y: 124
+            isShown: _menu.section === 1
+            shelves: _page.filmShelves
+            above: _menu
+            below: _films
+            back: _menu
+        }
+
+        RowsZone {
+            id: _films
+
+            page: _page
+            y: 206
+            width: 1280
+            height: 514
+            isShown: _menu.section === 1
+            shelf: _page.filmShelves[_tabs.openIndex]
+            above: _tabs
+            back: _tabs
+
+            onChosen: film => _page.choose(film)
+        }
+
+        GridZone {
+            id: _grid
+
+            page: _page
+            y: 124
+            width: 1280
+            height: 596
+            isShown: _menu.section === 2
+            above: _menu
+            back: _menu
+
+            onChosen: film => _page.choose(film)
+        }
+
+        SettingsZone {
+            id: _settings
+
+            page: _page
+            y: 140
+            isShown: _menu.section === 3
+            above: _menu
+            back: _menu
+        }
+    }
+
+    BusyZone {
+        id: _busy
+
+        page: _page
+        anchors.fill: parent
+        film: _page.film
+        back: _page.origin
+
+        onFinished: _page.focusZone(_details)
+        onCancelled: _page.focusZone(_page.origin)
+    }
+
+    DetailsZone {
+        id: _details
+
+        page: _page
+        anchors.fill: parent
+        film: _page.film
+        back: _page.origin
+
+        onPlayed: isFromStart => {
+            if (isFromStart)
+                _player.position = 0;
+            _page.focusZone(_player);
+        }
+    }
+
+    PlayerZone {
+        id: _player
+
+        page: _page
+        anchors.fill: parent
+        film: _page.film
+        back: _details
+    }
+}
