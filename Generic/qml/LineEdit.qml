@@ -217,7 +217,7 @@ QQT.Control {
             const twinBlank = "\uE000";
             const twin = _maskTwin.createObject(null, { inputMask: mask + ";" + twinBlank }) as TextInput;
             const blank = twin.displayText;
-            twin.insert(start, text.replaceAll(blanks ? blanks.charAt(0) : " ", twinBlank));
+            twin.insert(start, text.split(blanks ? blanks.charAt(0) : " ").join(twinBlank));
             const filled = twin.displayText;
             twin.destroy();
             let end = filled.length;
@@ -227,13 +227,8 @@ QQT.Control {
         }
 
         // A character beyond the basic plane is two units of text, which do not stand alone.
-        function unitsBefore(): int {
-            const position = _input.cursorPosition;
-            return position > 1 && _input.text.codePointAt(position - 2) > 0xffff ? 2 : 1;
-        }
-
-        function unitsAfter(): int {
-            return _input.text.codePointAt(_input.cursorPosition) > 0xffff ? 2 : 1;
+        function unitsAt(position: int): int {
+            return _input.text.codePointAt(position) > 0xffff ? 2 : 1;
         }
     }
 
@@ -256,7 +251,7 @@ QQT.Control {
     function delCurrentSymbol() {
         if (!selected || cursorPosition === 0)
             return;
-        const units = _private.unitsBefore();
+        const units = _private.unitsAt(cursorPosition - 2);
         // Through a mask, this steps over fixed characters; there, removing moves no cursor.
         cursorPosition -= units;
         _input.remove(cursorPosition, cursorPosition + units);
@@ -264,13 +259,13 @@ QQT.Control {
 
     function moveCursorToLeft() {
         if (selected && cursorPosition > 0)
-            cursorPosition -= _private.unitsBefore();
+            cursorPosition -= _private.unitsAt(cursorPosition - 2);
     }
 
     function moveCursorToRight() {
         // At the end of the text the input itself ignores the step.
         if (selected && text !== "" && cursorPosition <= text.length)
-            cursorPosition += _private.unitsAfter();
+            cursorPosition += _private.unitsAt(cursorPosition);
     }
 
     /*! Enters a digit of the remote by the rule that keyboardLayout tells of. */

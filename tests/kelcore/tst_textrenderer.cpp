@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QThread>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -7,6 +8,7 @@
 #include <QtTest/QTest>
 
 #include <limits>
+#include <memory>
 
 #include "kelcore/textrenderer.h"
 
@@ -190,6 +192,43 @@ private Q_SLOTS:
         const auto all = Qt::Alignment(Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask);
         renderer.setTextAlignment(all);
         QCOMPARE(renderer.textAlignment(), all);
+    }
+
+    //! A label shown before is not laid out again, and must be the same as if it were.
+    void shownAgainLabelsAreTheSame()
+    {
+        QList<Label> labels;
+        QFont bold = testFont();
+        bold.setBold(true);
+        for (const QString &text : {u"й"_s, u"Title"_s, u"A title"_s, u"חיפוש"_s}) {
+            for (const QFont &font : {testFont(), testFont(21), bold}) {
+                for (const auto alignment : {Qt::AlignLeft | Qt::AlignTop, Qt::AlignLeft | Qt::AlignBottom,
+                         Qt::AlignHCenter | Qt::AlignVCenter, Qt::AlignRight | Qt::AlignTop}) {
+                    for (const int width : {unlimited, 30, 80}) {
+                        for (const int height : {0, 50}) {
+                            labels.append({text, width, unlimited, alignment, height, font});
+                            labels.append({text, width, 1, alignment, height, font});
+                        }
+                    }
+                }
+            }
+        }
+        const auto shown = [&labels] {
+            QList<std::pair<QSize, QImage>> result;
+            for (const Label &label : std::as_const(labels))
+                result.append({sizeOf(label), pictureOf(label, {100, 60})});
+            return result;
+        };
+        QList<std::pair<QSize, QImage>> anew;
+        const std::unique_ptr<QThread> thread(QThread::create([&] { anew = shown(); }));
+        thread->start();
+        QVERIFY(thread->wait());
+        for (const auto &again : {shown(), shown()}) {
+            for (qsizetype i = 0; i < labels.size(); ++i) {
+                QVERIFY2(again.at(i) == anew.at(i),
+                    qPrintable(QDebug::toString(labels.at(i).text) + QString::number(i)));
+            }
+        }
     }
 
     void marginsAreAddedAndSaturate()
