@@ -257,6 +257,12 @@ Rectangle {
             compare(grabImage(spinner).pixel(95, 50), "#ffffff");
             spinner.endDeg = 10;
             compare(grabImage(spinner).pixel(95, 50), "#101828");
+            spinner.height = 60;
+            spinner.endDeg = 5;
+            compare(grabImage(spinner).pixel(95, 30), "#0000ff");
+            spinner.lineWidth = 200;
+            spinner.endDeg = 90;
+            compare(grabImage(spinner).pixel(75, 30), "#0000ff");
         }
 
         function test_lineWiderThanTheItemDrawsNothing_data() {

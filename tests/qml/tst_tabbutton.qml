@@ -301,6 +301,8 @@ Item {
             const line = ["#000000", "#32190a", "#643214", "#964b1e", "#c86428"];
             return [
                 { tag: "linear", type: Easing.Linear, curve: [0, 1, 0, 1, 1, 1], duration: 400, colors: line },
+                { tag: "quadratic", type: Easing.InQuad, curve: [0, 1, 0, 1, 1, 1], duration: 400,
+                  colors: ["#000000", "#0c0602", "#32190a", "#703816", "#c86428"] },
                 { tag: "straight curve", type: Easing.BezierSpline, curve: [0, 0, 0, 0, 1, 1], duration: 400,
                   colors: line },
                 { tag: "steep curve", type: Easing.BezierSpline, curve: [0, 1, 0, 1, 1, 1], duration: 800,
