@@ -41,6 +41,17 @@
     </message>
 </context>
 <context>
+    <name>BusyZone</name>
+    <message>
+        <source>One moment, the film is being prepared</source>
+        <translation>One moment, the film is being prepared</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Four states, two ways to find the width, titles cut to the room left</source>
@@ -131,6 +142,329 @@
     </message>
 </context>
 <context>
+    <name>DetailsZone</name>
+    <message>
+        <source>Watch</source>
+        <translation>Watch</translation>
+    </message>
+    <message>
+        <source>From the beginning</source>
+        <translation>From the beginning</translation>
+    </message>
+    <message>
+        <source>In my list</source>
+        <translation>In my list</translation>
+    </message>
+    <message>
+        <source>To my list</source>
+        <translation>To my list</translation>
+    </message>
+</context>
+<context>
+    <name>FilmCatalogue</name>
+    <message>
+        <source>Northern Light</source>
+        <translation>Northern Light</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Adventure</translation>
+    </message>
+    <message>
+        <source>Two sisters walk beyond the last village to see the sky burn green.</source>
+        <translation>Two sisters walk beyond the last village to see the sky burn green.</translation>
+    </message>
+    <message>
+        <source>The Keeper</source>
+        <translation>The Keeper</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>Drama</translation>
+    </message>
+    <message>
+        <source>A lamp has been lit every night for a century. Tonight nobody comes to light it.</source>
+        <translation>A lamp has been lit every night for a century. Tonight nobody comes to light it.</translation>
+    </message>
+    <message>
+        <source>Silent Orbit</source>
+        <translation>Silent Orbit</translation>
+    </message>
+    <message>
+        <source>Science fiction</source>
+        <translation>Science fiction</translation>
+    </message>
+    <message>
+        <source>The crew of a survey ship hears its own voices, sent back from the rings.</source>
+        <translation>The crew of a survey ship hears its own voices, sent back from the rings.</translation>
+    </message>
+    <message>
+        <source>Sea of Sand</source>
+        <translation>Sea of Sand</translation>
+    </message>
+    <message>
+        <source>A map, a camel and eleven days of water: a race to a well that may not exist.</source>
+        <translation>A map, a camel and eleven days of water: a race to a well that may not exist.</translation>
+    </message>
+    <message>
+        <source>Night Highway</source>
+        <translation>Night Highway</translation>
+    </message>
+    <message>
+        <source>On a road that never ends, a courier carries something that wants to arrive.</source>
+        <translation>On a road that never ends, a courier carries something that wants to arrive.</translation>
+    </message>
+    <message>
+        <source>The House in the Snow</source>
+        <translation>The House in the Snow</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Family</translation>
+    </message>
+    <message>
+        <source>Snowed in for a week, three generations learn to play one game of cards.</source>
+        <translation>Snowed in for a week, three generations learn to play one game of cards.</translation>
+    </message>
+    <message>
+        <source>City of Windows</source>
+        <translation>City of Windows</translation>
+    </message>
+    <message>
+        <source>Forty flats, one evening, and a piano that everyone in the house can hear.</source>
+        <translation>Forty flats, one evening, and a piano that everyone in the house can hear.</translation>
+    </message>
+    <message>
+        <source>Five Days in the Sky</source>
+        <translation>Five Days in the Sky</translation>
+    </message>
+    <message>
+        <source>A boy, his grandmother and a balloon that refuses to come down.</source>
+        <translation>A boy, his grandmother and a balloon that refuses to come down.</translation>
+    </message>
+    <message>
+        <source>Rain at Nine</source>
+        <translation>Rain at Nine</translation>
+    </message>
+    <message>
+        <source>An inspector waits under the lamp where, ten years ago, a case was closed.</source>
+        <translation>An inspector waits under the lamp where, ten years ago, a case was closed.</translation>
+    </message>
+    <message>
+        <source>Beyond the Pines</source>
+        <translation>Beyond the Pines</translation>
+    </message>
+    <message>
+        <source>A forester follows tracks that lead, every morning, one valley further.</source>
+        <translation>A forester follows tracks that lead, every morning, one valley further.</translation>
+    </message>
+    <message>
+        <source>Under the Mountain</source>
+        <translation>Under the Mountain</translation>
+    </message>
+    <message>
+        <source>What the geologists woke up does not want to go back to sleep.</source>
+        <translation>What the geologists woke up does not want to go back to sleep.</translation>
+    </message>
+    <message>
+        <source>The Last Regatta</source>
+        <translation>The Last Regatta</translation>
+    </message>
+    <message>
+        <source>An old boat, a young crew, and one summer to cross the bay.</source>
+        <translation>An old boat, a young crew, and one summer to cross the bay.</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>Quiet</translation>
+    </message>
+    <message>
+        <source>Distant</source>
+        <translation>Distant</translation>
+    </message>
+    <message>
+        <source>Golden</source>
+        <translation>Golden</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>Winter</source>
+        <translation>Winter</translation>
+    </message>
+    <message>
+        <source>Wild</source>
+        <translation>Wild</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <translation>Old</translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation>Bright</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Lost</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>Evening</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Eternal</source>
+        <translation>Eternal</translation>
+    </message>
+    <message>
+        <source>Strange</source>
+        <translation>Strange</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Warm</translation>
+    </message>
+    <message>
+        <source>Stone</source>
+        <translation>Stone</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Shore</source>
+        <translation>Shore</translation>
+    </message>
+    <message>
+        <source>Garden</source>
+        <translation>Garden</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>Wind</translation>
+    </message>
+    <message>
+        <source>Bridge</source>
+        <translation>Bridge</translation>
+    </message>
+    <message>
+        <source>Island</source>
+        <translation>Island</translation>
+    </message>
+    <message>
+        <source>Road</source>
+        <translation>Road</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Echo</translation>
+    </message>
+    <message>
+        <source>Harbour</source>
+        <translation>Harbour</translation>
+    </message>
+    <message>
+        <source>Forest</source>
+        <translation>Forest</translation>
+    </message>
+    <message>
+        <source>Morning</source>
+        <translation>Morning</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Train</source>
+        <translation>Train</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Snow</translation>
+    </message>
+    <message>
+        <source>Fire</source>
+        <translation>Fire</translation>
+    </message>
+    <message>
+        <source>Dream</source>
+        <translation>Dream</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Town</translation>
+    </message>
+    <message>
+        <source>Ocean</source>
+        <translation>Ocean</translation>
+    </message>
+    <message>
+        <source>Castle</source>
+        <translation>Castle</translation>
+    </message>
+    <message>
+        <source>Guest</source>
+        <translation>Guest</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>Waltz</source>
+        <translation>Waltz</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>Sunset</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>House</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>Horizon</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>adjective and noun</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2  ·  %3 min</source>
+        <translation>%1  ·  %2  ·  %3 min</translation>
+    </message>
+</context>
+<context>
     <name>Films</name>
     <message>
         <source>The Last Lamp</source>
@@ -186,6 +520,128 @@
     <message>
         <source>chosen: %1</source>
         <translation>chosen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>GridZone</name>
+    <message>
+        <source>All films</source>
+        <translation>All films</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+</context>
+<context>
+    <name>HomePage</name>
+    <message>
+        <source>New this week</source>
+        <translation>New this week</translation>
+    </message>
+    <message>
+        <source>Continue watching</source>
+        <translation>Continue watching</translation>
+    </message>
+    <message>
+        <source>Top 10 today</source>
+        <translation>Top 10 today</translation>
+    </message>
+    <message>
+        <source>For the whole family</source>
+        <translation>For the whole family</translation>
+    </message>
+    <message>
+        <source>Far from home</source>
+        <translation>Far from home</translation>
+    </message>
+    <message>
+        <source>For a rainy evening</source>
+        <translation>For a rainy evening</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Popular</translation>
+    </message>
+    <message>
+        <source>Everybody watches</source>
+        <translation>Everybody watches</translation>
+    </message>
+    <message>
+        <source>Critics recommend</source>
+        <translation>Critics recommend</translation>
+    </message>
+    <message>
+        <source>Hidden treasures</source>
+        <translation>Hidden treasures</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>Drama</translation>
+    </message>
+    <message>
+        <source>Strong characters</source>
+        <translation>Strong characters</translation>
+    </message>
+    <message>
+        <source>True stories</source>
+        <translation>True stories</translation>
+    </message>
+    <message>
+        <source>Family secrets</source>
+        <translation>Family secrets</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Adventure</translation>
+    </message>
+    <message>
+        <source>Over land and sea</source>
+        <translation>Over land and sea</translation>
+    </message>
+    <message>
+        <source>Against the clock</source>
+        <translation>Against the clock</translation>
+    </message>
+    <message>
+        <source>Under open skies</source>
+        <translation>Under open skies</translation>
+    </message>
+    <message>
+        <source>Science fiction</source>
+        <translation>Science fiction</translation>
+    </message>
+    <message>
+        <source>Other worlds</source>
+        <translation>Other worlds</translation>
+    </message>
+    <message>
+        <source>The day after tomorrow</source>
+        <translation>The day after tomorrow</translation>
+    </message>
+    <message>
+        <source>Machines that think</source>
+        <translation>Machines that think</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Family</translation>
+    </message>
+    <message>
+        <source>Together on the sofa</source>
+        <translation>Together on the sofa</translation>
+    </message>
+    <message>
+        <source>For the youngest</source>
+        <translation>For the youngest</translation>
+    </message>
+    <message>
+        <source>A good laugh</source>
+        <translation>A good laugh</translation>
+    </message>
+    <message>
+        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
+        <translation>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</translation>
     </message>
 </context>
 <context>
@@ -538,6 +994,25 @@
     </message>
 </context>
 <context>
+    <name>MenuZone</name>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>All films</source>
+        <translation>All films</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+</context>
+<context>
     <name>RectanglePage</name>
     <message>
         <source>A filled box; its corners are square unless rounding is forced</source>
@@ -619,6 +1094,25 @@
     </message>
 </context>
 <context>
+    <name>SettingsZone</name>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Smooth scrolling and colours</source>
+        <translation>Smooth scrolling and colours</translation>
+    </message>
+    <message>
+        <source>Large text</source>
+        <translation>Large text</translation>
+    </message>
+    <message>
+        <source>Titles below the pictures</source>
+        <translation>Titles below the pictures</translation>
+    </message>
+</context>
+<context>
     <name>SpinnerIndicatorPage</name>
     <message>
         <source>A ring with an arc that turns, grows and shrinks</source>
@@ -688,500 +1182,6 @@
     <message>
         <source>%1Layout: %2 keys</source>
         <translation>%1Layout: %2 keys</translation>
-    </message>
-</context>
-<context>
-    <name>BusyZone</name>
-    <message>
-        <source>One moment, the film is being prepared</source>
-        <translation>One moment, the film is being prepared</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
-    </message>
-</context>
-<context>
-    <name>DetailsZone</name>
-    <message>
-        <source>Watch</source>
-        <translation>Watch</translation>
-    </message>
-    <message>
-        <source>From the beginning</source>
-        <translation>From the beginning</translation>
-    </message>
-    <message>
-        <source>In my list</source>
-        <translation>In my list</translation>
-    </message>
-    <message>
-        <source>To my list</source>
-        <translation>To my list</translation>
-    </message>
-</context>
-<context>
-    <name>FilmCatalogue</name>
-    <message>
-        <source>Northern Light</source>
-        <translation>Northern Light</translation>
-    </message>
-    <message>
-        <source>Adventure</source>
-        <translation>Adventure</translation>
-    </message>
-    <message>
-        <source>Two sisters walk beyond the last village to see the sky burn green.</source>
-        <translation>Two sisters walk beyond the last village to see the sky burn green.</translation>
-    </message>
-    <message>
-        <source>The Keeper</source>
-        <translation>The Keeper</translation>
-    </message>
-    <message>
-        <source>Drama</source>
-        <translation>Drama</translation>
-    </message>
-    <message>
-        <source>A lamp has been lit every night for a century. Tonight nobody comes to light it.</source>
-        <translation>A lamp has been lit every night for a century. Tonight nobody comes to light it.</translation>
-    </message>
-    <message>
-        <source>Silent Orbit</source>
-        <translation>Silent Orbit</translation>
-    </message>
-    <message>
-        <source>Science fiction</source>
-        <translation>Science fiction</translation>
-    </message>
-    <message>
-        <source>The crew of a survey ship hears its own voices, sent back from the rings.</source>
-        <translation>The crew of a survey ship hears its own voices, sent back from the rings.</translation>
-    </message>
-    <message>
-        <source>Sea of Sand</source>
-        <translation>Sea of Sand</translation>
-    </message>
-    <message>
-        <source>A map, a camel and eleven days of water: a race to a well that may not exist.</source>
-        <translation>A map, a camel and eleven days of water: a race to a well that may not exist.</translation>
-    </message>
-    <message>
-        <source>Night Highway</source>
-        <translation>Night Highway</translation>
-    </message>
-    <message>
-        <source>On a road that never ends, a courier carries something that wants to arrive.</source>
-        <translation>On a road that never ends, a courier carries something that wants to arrive.</translation>
-    </message>
-    <message>
-        <source>The House in the Snow</source>
-        <translation>The House in the Snow</translation>
-    </message>
-    <message>
-        <source>Family</source>
-        <translation>Family</translation>
-    </message>
-    <message>
-        <source>Snowed in for a week, three generations learn to play one game of cards.</source>
-        <translation>Snowed in for a week, three generations learn to play one game of cards.</translation>
-    </message>
-    <message>
-        <source>City of Windows</source>
-        <translation>City of Windows</translation>
-    </message>
-    <message>
-        <source>Forty flats, one evening, and a piano that everyone in the house can hear.</source>
-        <translation>Forty flats, one evening, and a piano that everyone in the house can hear.</translation>
-    </message>
-    <message>
-        <source>Five Days in the Sky</source>
-        <translation>Five Days in the Sky</translation>
-    </message>
-    <message>
-        <source>A boy, his grandmother and a balloon that refuses to come down.</source>
-        <translation>A boy, his grandmother and a balloon that refuses to come down.</translation>
-    </message>
-    <message>
-        <source>Rain at Nine</source>
-        <translation>Rain at Nine</translation>
-    </message>
-    <message>
-        <source>An inspector waits under the lamp where, ten years ago, a case was closed.</source>
-        <translation>An inspector waits under the lamp where, ten years ago, a case was closed.</translation>
-    </message>
-    <message>
-        <source>Beyond the Pines</source>
-        <translation>Beyond the Pines</translation>
-    </message>
-    <message>
-        <source>A forester follows tracks that lead, every morning, one valley further.</source>
-        <translation>A forester follows tracks that lead, every morning, one valley further.</translation>
-    </message>
-    <message>
-        <source>Under the Mountain</source>
-        <translation>Under the Mountain</translation>
-    </message>
-    <message>
-        <source>What the geologists woke up does not want to go back to sleep.</source>
-        <translation>What the geologists woke up does not want to go back to sleep.</translation>
-    </message>
-    <message>
-        <source>The Last Regatta</source>
-        <translation>The Last Regatta</translation>
-    </message>
-    <message>
-        <source>An old boat, a young crew, and one summer to cross the bay.</source>
-        <translation>An old boat, a young crew, and one summer to cross the bay.</translation>
-    </message>
-    <message>
-        <source>Quiet</source>
-        <translation>Quiet</translation>
-    </message>
-    <message>
-        <source>Distant</source>
-        <translation>Distant</translation>
-    </message>
-    <message>
-        <source>Golden</source>
-        <translation>Golden</translation>
-    </message>
-    <message>
-        <source>Hidden</source>
-        <translation>Hidden</translation>
-    </message>
-    <message>
-        <source>Winter</source>
-        <translation>Winter</translation>
-    </message>
-    <message>
-        <source>Wild</source>
-        <translation>Wild</translation>
-    </message>
-    <message>
-        <source>Old</source>
-        <translation>Old</translation>
-    </message>
-    <message>
-        <source>Bright</source>
-        <translation>Bright</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Secret</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blue</translation>
-    </message>
-    <message>
-        <source>Lost</source>
-        <translation>Lost</translation>
-    </message>
-    <message>
-        <source>Evening</source>
-        <translation>Evening</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Open</translation>
-    </message>
-    <message>
-        <source>Eternal</source>
-        <translation>Eternal</translation>
-    </message>
-    <message>
-        <source>Strange</source>
-        <translation>Strange</translation>
-    </message>
-    <message>
-        <source>Empty</source>
-        <translation>Empty</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>High</translation>
-    </message>
-    <message>
-        <source>Warm</source>
-        <translation>Warm</translation>
-    </message>
-    <message>
-        <source>Stone</source>
-        <translation>Stone</translation>
-    </message>
-    <message>
-        <source>White</source>
-        <translation>White</translation>
-    </message>
-    <message>
-        <source>Shore</source>
-        <translation>Shore</translation>
-    </message>
-    <message>
-        <source>Garden</source>
-        <translation>Garden</translation>
-    </message>
-    <message>
-        <source>Wind</source>
-        <translation>Wind</translation>
-    </message>
-    <message>
-        <source>Bridge</source>
-        <translation>Bridge</translation>
-    </message>
-    <message>
-        <source>Island</source>
-        <translation>Island</translation>
-    </message>
-    <message>
-        <source>Road</source>
-        <translation>Road</translation>
-    </message>
-    <message>
-        <source>Echo</source>
-        <translation>Echo</translation>
-    </message>
-    <message>
-        <source>Harbour</source>
-        <translation>Harbour</translation>
-    </message>
-    <message>
-        <source>Forest</source>
-        <translation>Forest</translation>
-    </message>
-    <message>
-        <source>Morning</source>
-        <translation>Morning</translation>
-    </message>
-    <message>
-        <source>Station</source>
-        <translation>Station</translation>
-    </message>
-    <message>
-        <source>Train</source>
-        <translation>Train</translation>
-    </message>
-    <message>
-        <source>Snow</source>
-        <translation>Snow</translation>
-    </message>
-    <message>
-        <source>Fire</source>
-        <translation>Fire</translation>
-    </message>
-    <message>
-        <source>Dream</source>
-        <translation>Dream</translation>
-    </message>
-    <message>
-        <source>Town</source>
-        <translation>Town</translation>
-    </message>
-    <message>
-        <source>Ocean</source>
-        <translation>Ocean</translation>
-    </message>
-    <message>
-        <source>Castle</source>
-        <translation>Castle</translation>
-    </message>
-    <message>
-        <source>Guest</source>
-        <translation>Guest</translation>
-    </message>
-    <message>
-        <source>Voice</source>
-        <translation>Voice</translation>
-    </message>
-    <message>
-        <source>Waltz</source>
-        <translation>Waltz</translation>
-    </message>
-    <message>
-        <source>Sunset</source>
-        <translation>Sunset</translation>
-    </message>
-    <message>
-        <source>Trace</source>
-        <translation>Trace</translation>
-    </message>
-    <message>
-        <source>House</source>
-        <translation>House</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>Horizon</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <comment>adjective and noun</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>%1  ·  %2  ·  %3 min</source>
-        <translation>%1  ·  %2  ·  %3 min</translation>
-    </message>
-</context>
-<context>
-    <name>GridZone</name>
-    <message>
-        <source>All films</source>
-        <translation>All films</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
-    </message>
-</context>
-<context>
-    <name>HomePage</name>
-    <message>
-        <source>New this week</source>
-        <translation>New this week</translation>
-    </message>
-    <message>
-        <source>Continue watching</source>
-        <translation>Continue watching</translation>
-    </message>
-    <message>
-        <source>Top 10 today</source>
-        <translation>Top 10 today</translation>
-    </message>
-    <message>
-        <source>For the whole family</source>
-        <translation>For the whole family</translation>
-    </message>
-    <message>
-        <source>Far from home</source>
-        <translation>Far from home</translation>
-    </message>
-    <message>
-        <source>For a rainy evening</source>
-        <translation>For a rainy evening</translation>
-    </message>
-    <message>
-        <source>Popular</source>
-        <translation>Popular</translation>
-    </message>
-    <message>
-        <source>Everybody watches</source>
-        <translation>Everybody watches</translation>
-    </message>
-    <message>
-        <source>Critics recommend</source>
-        <translation>Critics recommend</translation>
-    </message>
-    <message>
-        <source>Hidden treasures</source>
-        <translation>Hidden treasures</translation>
-    </message>
-    <message>
-        <source>Drama</source>
-        <translation>Drama</translation>
-    </message>
-    <message>
-        <source>Strong characters</source>
-        <translation>Strong characters</translation>
-    </message>
-    <message>
-        <source>True stories</source>
-        <translation>True stories</translation>
-    </message>
-    <message>
-        <source>Family secrets</source>
-        <translation>Family secrets</translation>
-    </message>
-    <message>
-        <source>Adventure</source>
-        <translation>Adventure</translation>
-    </message>
-    <message>
-        <source>Over land and sea</source>
-        <translation>Over land and sea</translation>
-    </message>
-    <message>
-        <source>Against the clock</source>
-        <translation>Against the clock</translation>
-    </message>
-    <message>
-        <source>Under open skies</source>
-        <translation>Under open skies</translation>
-    </message>
-    <message>
-        <source>Science fiction</source>
-        <translation>Science fiction</translation>
-    </message>
-    <message>
-        <source>Other worlds</source>
-        <translation>Other worlds</translation>
-    </message>
-    <message>
-        <source>The day after tomorrow</source>
-        <translation>The day after tomorrow</translation>
-    </message>
-    <message>
-        <source>Machines that think</source>
-        <translation>Machines that think</translation>
-    </message>
-    <message>
-        <source>Family</source>
-        <translation>Family</translation>
-    </message>
-    <message>
-        <source>Together on the sofa</source>
-        <translation>Together on the sofa</translation>
-    </message>
-    <message>
-        <source>For the youngest</source>
-        <translation>For the youngest</translation>
-    </message>
-    <message>
-        <source>A good laugh</source>
-        <translation>A good laugh</translation>
-    </message>
-    <message>
-        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
-        <translation>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</translation>
-    </message>
-</context>
-<context>
-    <name>MenuZone</name>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
-        <source>Films</source>
-        <translation>Films</translation>
-    </message>
-    <message>
-        <source>All films</source>
-        <translation>All films</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Settings</translation>
-    </message>
-</context>
-<context>
-    <name>SettingsZone</name>
-    <message>
-        <source>Settings</source>
-        <translation>Settings</translation>
-    </message>
-    <message>
-        <source>Smooth scrolling and colours</source>
-        <translation>Smooth scrolling and colours</translation>
-    </message>
-    <message>
-        <source>Large text</source>
-        <translation>Large text</translation>
-    </message>
-    <message>
-        <source>Titles below the pictures</source>
-        <translation>Titles below the pictures</translation>
     </message>
 </context>
 </TS>

@@ -41,6 +41,17 @@
     </message>
 </context>
 <context>
+    <name>BusyZone</name>
+    <message>
+        <source>One moment, the film is being prepared</source>
+        <translation>Минуту, фильм готовится к показу</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
     <name>ButtonPage</name>
     <message>
         <source>Four states, two ways to find the width, titles cut to the room left</source>
@@ -131,6 +142,329 @@
     </message>
 </context>
 <context>
+    <name>DetailsZone</name>
+    <message>
+        <source>Watch</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>From the beginning</source>
+        <translation>Сначала</translation>
+    </message>
+    <message>
+        <source>In my list</source>
+        <translation>В моём списке</translation>
+    </message>
+    <message>
+        <source>To my list</source>
+        <translation>В мой список</translation>
+    </message>
+</context>
+<context>
+    <name>FilmCatalogue</name>
+    <message>
+        <source>Northern Light</source>
+        <translation>Северный свет</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Приключения</translation>
+    </message>
+    <message>
+        <source>Two sisters walk beyond the last village to see the sky burn green.</source>
+        <translation>Две сестры идут за последнюю деревню, чтобы увидеть, как небо горит зелёным.</translation>
+    </message>
+    <message>
+        <source>The Keeper</source>
+        <translation>Смотритель</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>Драма</translation>
+    </message>
+    <message>
+        <source>A lamp has been lit every night for a century. Tonight nobody comes to light it.</source>
+        <translation>Сто лет лампу зажигали каждую ночь. Сегодня зажечь её некому.</translation>
+    </message>
+    <message>
+        <source>Silent Orbit</source>
+        <translation>Тихая орбита</translation>
+    </message>
+    <message>
+        <source>Science fiction</source>
+        <translation>Фантастика</translation>
+    </message>
+    <message>
+        <source>The crew of a survey ship hears its own voices, sent back from the rings.</source>
+        <translation>Экипаж разведчика слышит собственные голоса: их возвращают кольца планеты.</translation>
+    </message>
+    <message>
+        <source>Sea of Sand</source>
+        <translation>Море песка</translation>
+    </message>
+    <message>
+        <source>A map, a camel and eleven days of water: a race to a well that may not exist.</source>
+        <translation>Карта, верблюд и воды на одиннадцать дней: путь к колодцу, которого может и не быть.</translation>
+    </message>
+    <message>
+        <source>Night Highway</source>
+        <translation>Ночное шоссе</translation>
+    </message>
+    <message>
+        <source>On a road that never ends, a courier carries something that wants to arrive.</source>
+        <translation>По бесконечной дороге курьер везёт то, что само хочет доехать.</translation>
+    </message>
+    <message>
+        <source>The House in the Snow</source>
+        <translation>Дом в снегу</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Семейное</translation>
+    </message>
+    <message>
+        <source>Snowed in for a week, three generations learn to play one game of cards.</source>
+        <translation>Неделя под снегом: три поколения учатся играть в одну игру.</translation>
+    </message>
+    <message>
+        <source>City of Windows</source>
+        <translation>Город окон</translation>
+    </message>
+    <message>
+        <source>Forty flats, one evening, and a piano that everyone in the house can hear.</source>
+        <translation>Сорок квартир, один вечер и рояль, который слышит весь дом.</translation>
+    </message>
+    <message>
+        <source>Five Days in the Sky</source>
+        <translation>Пять дней в небе</translation>
+    </message>
+    <message>
+        <source>A boy, his grandmother and a balloon that refuses to come down.</source>
+        <translation>Мальчик, его бабушка и воздушный шар, который не хочет спускаться.</translation>
+    </message>
+    <message>
+        <source>Rain at Nine</source>
+        <translation>Дождь в девять</translation>
+    </message>
+    <message>
+        <source>An inspector waits under the lamp where, ten years ago, a case was closed.</source>
+        <translation>Следователь ждёт под фонарём, где десять лет назад закрыли дело.</translation>
+    </message>
+    <message>
+        <source>Beyond the Pines</source>
+        <translation>За соснами</translation>
+    </message>
+    <message>
+        <source>A forester follows tracks that lead, every morning, one valley further.</source>
+        <translation>Лесник идёт по следам, которые каждое утро ведут в следующую долину.</translation>
+    </message>
+    <message>
+        <source>Under the Mountain</source>
+        <translation>Под горой</translation>
+    </message>
+    <message>
+        <source>What the geologists woke up does not want to go back to sleep.</source>
+        <translation>То, что разбудили геологи, не хочет засыпать снова.</translation>
+    </message>
+    <message>
+        <source>The Last Regatta</source>
+        <translation>Последняя регата</translation>
+    </message>
+    <message>
+        <source>An old boat, a young crew, and one summer to cross the bay.</source>
+        <translation>Старая яхта, молодая команда и одно лето, чтобы пересечь залив.</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>Тихий</translation>
+    </message>
+    <message>
+        <source>Distant</source>
+        <translation>Далёкий</translation>
+    </message>
+    <message>
+        <source>Golden</source>
+        <translation>Золотой</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Скрытый</translation>
+    </message>
+    <message>
+        <source>Winter</source>
+        <translation>Зимний</translation>
+    </message>
+    <message>
+        <source>Wild</source>
+        <translation>Дикий</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <translation>Старый</translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation>Яркий</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Тайный</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Синий</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Забытый</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>Вечерний</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открытый</translation>
+    </message>
+    <message>
+        <source>Eternal</source>
+        <translation>Вечный</translation>
+    </message>
+    <message>
+        <source>Strange</source>
+        <translation>Странный</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Пустой</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Высокий</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Тёплый</translation>
+    </message>
+    <message>
+        <source>Stone</source>
+        <translation>Каменный</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Белый</translation>
+    </message>
+    <message>
+        <source>Shore</source>
+        <translation>берег</translation>
+    </message>
+    <message>
+        <source>Garden</source>
+        <translation>сад</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>ветер</translation>
+    </message>
+    <message>
+        <source>Bridge</source>
+        <translation>мост</translation>
+    </message>
+    <message>
+        <source>Island</source>
+        <translation>остров</translation>
+    </message>
+    <message>
+        <source>Road</source>
+        <translation>путь</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>отзвук</translation>
+    </message>
+    <message>
+        <source>Harbour</source>
+        <translation>причал</translation>
+    </message>
+    <message>
+        <source>Forest</source>
+        <translation>лес</translation>
+    </message>
+    <message>
+        <source>Morning</source>
+        <translation>рассвет</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>вокзал</translation>
+    </message>
+    <message>
+        <source>Train</source>
+        <translation>поезд</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>снег</translation>
+    </message>
+    <message>
+        <source>Fire</source>
+        <translation>огонь</translation>
+    </message>
+    <message>
+        <source>Dream</source>
+        <translation>сон</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>город</translation>
+    </message>
+    <message>
+        <source>Ocean</source>
+        <translation>океан</translation>
+    </message>
+    <message>
+        <source>Castle</source>
+        <translation>замок</translation>
+    </message>
+    <message>
+        <source>Guest</source>
+        <translation>гость</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>голос</translation>
+    </message>
+    <message>
+        <source>Waltz</source>
+        <translation>вальс</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>закат</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>след</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>дом</translation>
+    </message>
+    <message>
+        <source>Horizon</source>
+        <translation>горизонт</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>adjective and noun</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2  ·  %3 min</source>
+        <translation>%1  ·  %2  ·  %3 мин</translation>
+    </message>
+</context>
+<context>
     <name>Films</name>
     <message>
         <source>The Last Lamp</source>
@@ -186,6 +520,128 @@
     <message>
         <source>chosen: %1</source>
         <translation>выбрана: %1</translation>
+    </message>
+</context>
+<context>
+    <name>GridZone</name>
+    <message>
+        <source>All films</source>
+        <translation>Все фильмы</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>HomePage</name>
+    <message>
+        <source>New this week</source>
+        <translation>Новинки недели</translation>
+    </message>
+    <message>
+        <source>Continue watching</source>
+        <translation>Продолжить просмотр</translation>
+    </message>
+    <message>
+        <source>Top 10 today</source>
+        <translation>Топ-10 сегодня</translation>
+    </message>
+    <message>
+        <source>For the whole family</source>
+        <translation>Для всей семьи</translation>
+    </message>
+    <message>
+        <source>Far from home</source>
+        <translation>Вдали от дома</translation>
+    </message>
+    <message>
+        <source>For a rainy evening</source>
+        <translation>Для дождливого вечера</translation>
+    </message>
+    <message>
+        <source>Popular</source>
+        <translation>Популярное</translation>
+    </message>
+    <message>
+        <source>Everybody watches</source>
+        <translation>Смотрят все</translation>
+    </message>
+    <message>
+        <source>Critics recommend</source>
+        <translation>Выбор критиков</translation>
+    </message>
+    <message>
+        <source>Hidden treasures</source>
+        <translation>Скрытые сокровища</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>Драма</translation>
+    </message>
+    <message>
+        <source>Strong characters</source>
+        <translation>Сильные характеры</translation>
+    </message>
+    <message>
+        <source>True stories</source>
+        <translation>Реальные истории</translation>
+    </message>
+    <message>
+        <source>Family secrets</source>
+        <translation>Семейные тайны</translation>
+    </message>
+    <message>
+        <source>Adventure</source>
+        <translation>Приключения</translation>
+    </message>
+    <message>
+        <source>Over land and sea</source>
+        <translation>По суше и по морю</translation>
+    </message>
+    <message>
+        <source>Against the clock</source>
+        <translation>Наперегонки со временем</translation>
+    </message>
+    <message>
+        <source>Under open skies</source>
+        <translation>Под открытым небом</translation>
+    </message>
+    <message>
+        <source>Science fiction</source>
+        <translation>Фантастика</translation>
+    </message>
+    <message>
+        <source>Other worlds</source>
+        <translation>Иные миры</translation>
+    </message>
+    <message>
+        <source>The day after tomorrow</source>
+        <translation>Послезавтра</translation>
+    </message>
+    <message>
+        <source>Machines that think</source>
+        <translation>Думающие машины</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Семейное</translation>
+    </message>
+    <message>
+        <source>Together on the sofa</source>
+        <translation>Вместе на диване</translation>
+    </message>
+    <message>
+        <source>For the youngest</source>
+        <translation>Самым маленьким</translation>
+    </message>
+    <message>
+        <source>A good laugh</source>
+        <translation>Посмеяться</translation>
+    </message>
+    <message>
+        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
+        <translation>Главный экран, как в приставке, из элементов модуля: откройте кнопкой OK</translation>
     </message>
 </context>
 <context>
@@ -538,6 +994,25 @@
     </message>
 </context>
 <context>
+    <name>MenuZone</name>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Фильмы</translation>
+    </message>
+    <message>
+        <source>All films</source>
+        <translation>Все фильмы</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+</context>
+<context>
     <name>RectanglePage</name>
     <message>
         <source>A filled box; its corners are square unless rounding is forced</source>
@@ -619,6 +1094,25 @@
     </message>
 </context>
 <context>
+    <name>SettingsZone</name>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Smooth scrolling and colours</source>
+        <translation>Плавная прокрутка и смена цветов</translation>
+    </message>
+    <message>
+        <source>Large text</source>
+        <translation>Крупный текст</translation>
+    </message>
+    <message>
+        <source>Titles below the pictures</source>
+        <translation>Названия под картинками</translation>
+    </message>
+</context>
+<context>
     <name>SpinnerIndicatorPage</name>
     <message>
         <source>A ring with an arc that turns, grows and shrinks</source>
@@ -688,500 +1182,6 @@
     <message>
         <source>%1Layout: %2 keys</source>
         <translation>%1Layout, клавиш: %2</translation>
-    </message>
-</context>
-<context>
-    <name>BusyZone</name>
-    <message>
-        <source>One moment, the film is being prepared</source>
-        <translation>Минуту, фильм готовится к показу</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Отмена</translation>
-    </message>
-</context>
-<context>
-    <name>DetailsZone</name>
-    <message>
-        <source>Watch</source>
-        <translation>Смотреть</translation>
-    </message>
-    <message>
-        <source>From the beginning</source>
-        <translation>Сначала</translation>
-    </message>
-    <message>
-        <source>In my list</source>
-        <translation>В моём списке</translation>
-    </message>
-    <message>
-        <source>To my list</source>
-        <translation>В мой список</translation>
-    </message>
-</context>
-<context>
-    <name>FilmCatalogue</name>
-    <message>
-        <source>Northern Light</source>
-        <translation>Северный свет</translation>
-    </message>
-    <message>
-        <source>Adventure</source>
-        <translation>Приключения</translation>
-    </message>
-    <message>
-        <source>Two sisters walk beyond the last village to see the sky burn green.</source>
-        <translation>Две сестры идут за последнюю деревню, чтобы увидеть, как небо горит зелёным.</translation>
-    </message>
-    <message>
-        <source>The Keeper</source>
-        <translation>Смотритель</translation>
-    </message>
-    <message>
-        <source>Drama</source>
-        <translation>Драма</translation>
-    </message>
-    <message>
-        <source>A lamp has been lit every night for a century. Tonight nobody comes to light it.</source>
-        <translation>Сто лет лампу зажигали каждую ночь. Сегодня зажечь её некому.</translation>
-    </message>
-    <message>
-        <source>Silent Orbit</source>
-        <translation>Тихая орбита</translation>
-    </message>
-    <message>
-        <source>Science fiction</source>
-        <translation>Фантастика</translation>
-    </message>
-    <message>
-        <source>The crew of a survey ship hears its own voices, sent back from the rings.</source>
-        <translation>Экипаж разведчика слышит собственные голоса: их возвращают кольца планеты.</translation>
-    </message>
-    <message>
-        <source>Sea of Sand</source>
-        <translation>Море песка</translation>
-    </message>
-    <message>
-        <source>A map, a camel and eleven days of water: a race to a well that may not exist.</source>
-        <translation>Карта, верблюд и воды на одиннадцать дней: путь к колодцу, которого может и не быть.</translation>
-    </message>
-    <message>
-        <source>Night Highway</source>
-        <translation>Ночное шоссе</translation>
-    </message>
-    <message>
-        <source>On a road that never ends, a courier carries something that wants to arrive.</source>
-        <translation>По бесконечной дороге курьер везёт то, что само хочет доехать.</translation>
-    </message>
-    <message>
-        <source>The House in the Snow</source>
-        <translation>Дом в снегу</translation>
-    </message>
-    <message>
-        <source>Family</source>
-        <translation>Семейное</translation>
-    </message>
-    <message>
-        <source>Snowed in for a week, three generations learn to play one game of cards.</source>
-        <translation>Неделя под снегом: три поколения учатся играть в одну игру.</translation>
-    </message>
-    <message>
-        <source>City of Windows</source>
-        <translation>Город окон</translation>
-    </message>
-    <message>
-        <source>Forty flats, one evening, and a piano that everyone in the house can hear.</source>
-        <translation>Сорок квартир, один вечер и рояль, который слышит весь дом.</translation>
-    </message>
-    <message>
-        <source>Five Days in the Sky</source>
-        <translation>Пять дней в небе</translation>
-    </message>
-    <message>
-        <source>A boy, his grandmother and a balloon that refuses to come down.</source>
-        <translation>Мальчик, его бабушка и воздушный шар, который не хочет спускаться.</translation>
-    </message>
-    <message>
-        <source>Rain at Nine</source>
-        <translation>Дождь в девять</translation>
-    </message>
-    <message>
-        <source>An inspector waits under the lamp where, ten years ago, a case was closed.</source>
-        <translation>Следователь ждёт под фонарём, где десять лет назад закрыли дело.</translation>
-    </message>
-    <message>
-        <source>Beyond the Pines</source>
-        <translation>За соснами</translation>
-    </message>
-    <message>
-        <source>A forester follows tracks that lead, every morning, one valley further.</source>
-        <translation>Лесник идёт по следам, которые каждое утро ведут в следующую долину.</translation>
-    </message>
-    <message>
-        <source>Under the Mountain</source>
-        <translation>Под горой</translation>
-    </message>
-    <message>
-        <source>What the geologists woke up does not want to go back to sleep.</source>
-        <translation>То, что разбудили геологи, не хочет засыпать снова.</translation>
-    </message>
-    <message>
-        <source>The Last Regatta</source>
-        <translation>Последняя регата</translation>
-    </message>
-    <message>
-        <source>An old boat, a young crew, and one summer to cross the bay.</source>
-        <translation>Старая яхта, молодая команда и одно лето, чтобы пересечь залив.</translation>
-    </message>
-    <message>
-        <source>Quiet</source>
-        <translation>Тихий</translation>
-    </message>
-    <message>
-        <source>Distant</source>
-        <translation>Далёкий</translation>
-    </message>
-    <message>
-        <source>Golden</source>
-        <translation>Золотой</translation>
-    </message>
-    <message>
-        <source>Hidden</source>
-        <translation>Скрытый</translation>
-    </message>
-    <message>
-        <source>Winter</source>
-        <translation>Зимний</translation>
-    </message>
-    <message>
-        <source>Wild</source>
-        <translation>Дикий</translation>
-    </message>
-    <message>
-        <source>Old</source>
-        <translation>Старый</translation>
-    </message>
-    <message>
-        <source>Bright</source>
-        <translation>Яркий</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Тайный</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Синий</translation>
-    </message>
-    <message>
-        <source>Lost</source>
-        <translation>Забытый</translation>
-    </message>
-    <message>
-        <source>Evening</source>
-        <translation>Вечерний</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Открытый</translation>
-    </message>
-    <message>
-        <source>Eternal</source>
-        <translation>Вечный</translation>
-    </message>
-    <message>
-        <source>Strange</source>
-        <translation>Странный</translation>
-    </message>
-    <message>
-        <source>Empty</source>
-        <translation>Пустой</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Высокий</translation>
-    </message>
-    <message>
-        <source>Warm</source>
-        <translation>Тёплый</translation>
-    </message>
-    <message>
-        <source>Stone</source>
-        <translation>Каменный</translation>
-    </message>
-    <message>
-        <source>White</source>
-        <translation>Белый</translation>
-    </message>
-    <message>
-        <source>Shore</source>
-        <translation>берег</translation>
-    </message>
-    <message>
-        <source>Garden</source>
-        <translation>сад</translation>
-    </message>
-    <message>
-        <source>Wind</source>
-        <translation>ветер</translation>
-    </message>
-    <message>
-        <source>Bridge</source>
-        <translation>мост</translation>
-    </message>
-    <message>
-        <source>Island</source>
-        <translation>остров</translation>
-    </message>
-    <message>
-        <source>Road</source>
-        <translation>путь</translation>
-    </message>
-    <message>
-        <source>Echo</source>
-        <translation>отзвук</translation>
-    </message>
-    <message>
-        <source>Harbour</source>
-        <translation>причал</translation>
-    </message>
-    <message>
-        <source>Forest</source>
-        <translation>лес</translation>
-    </message>
-    <message>
-        <source>Morning</source>
-        <translation>рассвет</translation>
-    </message>
-    <message>
-        <source>Station</source>
-        <translation>вокзал</translation>
-    </message>
-    <message>
-        <source>Train</source>
-        <translation>поезд</translation>
-    </message>
-    <message>
-        <source>Snow</source>
-        <translation>снег</translation>
-    </message>
-    <message>
-        <source>Fire</source>
-        <translation>огонь</translation>
-    </message>
-    <message>
-        <source>Dream</source>
-        <translation>сон</translation>
-    </message>
-    <message>
-        <source>Town</source>
-        <translation>город</translation>
-    </message>
-    <message>
-        <source>Ocean</source>
-        <translation>океан</translation>
-    </message>
-    <message>
-        <source>Castle</source>
-        <translation>замок</translation>
-    </message>
-    <message>
-        <source>Guest</source>
-        <translation>гость</translation>
-    </message>
-    <message>
-        <source>Voice</source>
-        <translation>голос</translation>
-    </message>
-    <message>
-        <source>Waltz</source>
-        <translation>вальс</translation>
-    </message>
-    <message>
-        <source>Sunset</source>
-        <translation>закат</translation>
-    </message>
-    <message>
-        <source>Trace</source>
-        <translation>след</translation>
-    </message>
-    <message>
-        <source>House</source>
-        <translation>дом</translation>
-    </message>
-    <message>
-        <source>Horizon</source>
-        <translation>горизонт</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <comment>adjective and noun</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>%1  ·  %2  ·  %3 min</source>
-        <translation>%1  ·  %2  ·  %3 мин</translation>
-    </message>
-</context>
-<context>
-    <name>GridZone</name>
-    <message>
-        <source>All films</source>
-        <translation>Все фильмы</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 из %2</translation>
-    </message>
-</context>
-<context>
-    <name>HomePage</name>
-    <message>
-        <source>New this week</source>
-        <translation>Новинки недели</translation>
-    </message>
-    <message>
-        <source>Continue watching</source>
-        <translation>Продолжить просмотр</translation>
-    </message>
-    <message>
-        <source>Top 10 today</source>
-        <translation>Топ-10 сегодня</translation>
-    </message>
-    <message>
-        <source>For the whole family</source>
-        <translation>Для всей семьи</translation>
-    </message>
-    <message>
-        <source>Far from home</source>
-        <translation>Вдали от дома</translation>
-    </message>
-    <message>
-        <source>For a rainy evening</source>
-        <translation>Для дождливого вечера</translation>
-    </message>
-    <message>
-        <source>Popular</source>
-        <translation>Популярное</translation>
-    </message>
-    <message>
-        <source>Everybody watches</source>
-        <translation>Смотрят все</translation>
-    </message>
-    <message>
-        <source>Critics recommend</source>
-        <translation>Выбор критиков</translation>
-    </message>
-    <message>
-        <source>Hidden treasures</source>
-        <translation>Скрытые сокровища</translation>
-    </message>
-    <message>
-        <source>Drama</source>
-        <translation>Драма</translation>
-    </message>
-    <message>
-        <source>Strong characters</source>
-        <translation>Сильные характеры</translation>
-    </message>
-    <message>
-        <source>True stories</source>
-        <translation>Реальные истории</translation>
-    </message>
-    <message>
-        <source>Family secrets</source>
-        <translation>Семейные тайны</translation>
-    </message>
-    <message>
-        <source>Adventure</source>
-        <translation>Приключения</translation>
-    </message>
-    <message>
-        <source>Over land and sea</source>
-        <translation>По суше и по морю</translation>
-    </message>
-    <message>
-        <source>Against the clock</source>
-        <translation>Наперегонки со временем</translation>
-    </message>
-    <message>
-        <source>Under open skies</source>
-        <translation>Под открытым небом</translation>
-    </message>
-    <message>
-        <source>Science fiction</source>
-        <translation>Фантастика</translation>
-    </message>
-    <message>
-        <source>Other worlds</source>
-        <translation>Иные миры</translation>
-    </message>
-    <message>
-        <source>The day after tomorrow</source>
-        <translation>Послезавтра</translation>
-    </message>
-    <message>
-        <source>Machines that think</source>
-        <translation>Думающие машины</translation>
-    </message>
-    <message>
-        <source>Family</source>
-        <translation>Семейное</translation>
-    </message>
-    <message>
-        <source>Together on the sofa</source>
-        <translation>Вместе на диване</translation>
-    </message>
-    <message>
-        <source>For the youngest</source>
-        <translation>Самым маленьким</translation>
-    </message>
-    <message>
-        <source>A good laugh</source>
-        <translation>Посмеяться</translation>
-    </message>
-    <message>
-        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
-        <translation>Главный экран, как в приставке, из элементов модуля: откройте кнопкой OK</translation>
-    </message>
-</context>
-<context>
-    <name>MenuZone</name>
-    <message>
-        <source>Home</source>
-        <translation>Главная</translation>
-    </message>
-    <message>
-        <source>Films</source>
-        <translation>Фильмы</translation>
-    </message>
-    <message>
-        <source>All films</source>
-        <translation>Все фильмы</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Настройки</translation>
-    </message>
-</context>
-<context>
-    <name>SettingsZone</name>
-    <message>
-        <source>Settings</source>
-        <translation>Настройки</translation>
-    </message>
-    <message>
-        <source>Smooth scrolling and colours</source>
-        <translation>Плавная прокрутка и смена цветов</translation>
-    </message>
-    <message>
-        <source>Large text</source>
-        <translation>Крупный текст</translation>
-    </message>
-    <message>
-        <source>Titles below the pictures</source>
-        <translation>Названия под картинками</translation>
     </message>
 </context>
 </TS>
