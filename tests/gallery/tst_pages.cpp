@@ -122,8 +122,12 @@ void tst_pages::everyStopIsReached_data()
     QMetaObject::invokeMethod(m_window, "pageNames", qReturnArg(names));
     QVERIFY(!names.isEmpty());
     const QStringList languages = Language::codes();
-    for (const QString &language : languages) {
-        for (int index = 0; index < names.size(); ++index)
+    for (int index = 0; index < names.size(); ++index) {
+        open(index);
+        // Home moves its focus itself; it has a test of its own.
+        if (page()->property("isFullScreen").toBool())
+            continue;
+        for (const QString &language : languages)
             QTest::addRow("%s %s", qPrintable(language), qPrintable(names.at(index))) << language << index;
     }
     m_engine.reset();
