@@ -13,13 +13,14 @@ QQT.Control {
     property int layout: 0
     /*! Lets the application's navigation tell keys from other items. */
     readonly property bool isInteractive: true
+    // Aliases: a keyboard makes dozens of keys at a time, and what is handed on by a binding costs each of them.
     // The defaults that strike the eye ask for colours and a text of the application's own.
-    property color backgroundColor: "red"
+    property alias backgroundColor: _background.color
     /*! Corner radius in pixels, handed to the background, which draws square corners all the same. */
-    property real roundingRadius: 0
+    property alias roundingRadius: _background.roundingRadius
     /*! The label; an empty one is not seen. */
-    property string text: "NaN"
-    property color textColor: "green"
+    property alias text: _label.text
+    property alias textColor: _label.color
     /*! Image address of the icon; an empty one is not seen. */
     property string imagePath: ""
 
@@ -28,19 +29,20 @@ QQT.Control {
     background: KELUIQCG.Rectangle {
         id: _background
 
-        roundingRadius: _key.roundingRadius
-        color: _key.backgroundColor
+        color: "red"
     }
 
     contentItem: Item {
         id: _contentItem
 
         KELUIQCG.Text {
+            id: _label
+
             anchors.centerIn: _contentItem
             maximumLineCount: 1
             font: _key.font
-            color: _key.textColor
-            text: _key.text
+            color: "green"
+            text: "NaN"
         }
 
         Image {

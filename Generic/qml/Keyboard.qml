@@ -103,8 +103,8 @@ GridLayout {
 
         // Only these have a place of their own in the grid: an attached object for each key would cost more.
         function widenSpaceKeys() {
-            for (let i = 0; i < keys.length; ++i) {
-                const key = keys[i] === "space" ? _repeater.itemAt(i) as KELUIQCG.Key : null;
+            for (let i = keys.indexOf("space"); i >= 0; i = keys.indexOf("space", i + 1)) {
+                const key = _repeater.itemAt(i) as KELUIQCG.Key;
                 if (key) {
                     key.Layout.columnSpan = _keyboard.spaceKeyColumnSpan;
                     key.Layout.fillWidth = true;

@@ -126,7 +126,7 @@ QQT.Button {
     background: KELUIQCG.Rectangle {
         id: _background
 
-        anchors.verticalCenter: parent?.verticalCenter
+        anchors.verticalCenter: _button.verticalCenter
         height: _button.backgroundHeight
         forceRounding: true
         roundingRadius: _button.roundingRadius
