@@ -1,59 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "shots.h"
 
-#include <QtCore/QAnimationDriver>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTextStream>
 #include <QtCore/QThread>
-#include <QtCore/QVariantAnimation>
 #include <QtGui/QImage>
 #include <QtGui/QKeyEvent>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
+#include "animationclock.h"
+
 namespace {
 
-//! The time of animations and of timers in QML, which passes only when told: no picture depends on when it
-//! was taken.
-class Clock : public QAnimationDriver
+//! In steps that no timer is shorter than.
+void pass(AnimationClock &clock, int milliseconds)
 {
-public:
-    Clock()
-    {
-        install();
-        // While nothing but timers is running, drivers are not asked.
-        m_animation.setStartValue(0);
-        m_animation.setEndValue(1);
-        m_animation.setLoopCount(-1);
-        m_animation.start();
-    }
-
-    qint64 elapsed() const override { return m_elapsed; }
-    void advance() override { }
-
-    void pass(int milliseconds)
-    {
-        constexpr int step = 10;
-        for (int passed = 0; passed < milliseconds; passed += step) {
-            deliver();
-            m_elapsed += step;
-            advanceAnimation();
-            deliver();
-        }
-    }
-
-private:
-    //! Timers start and fire by events. To start one takes two, and what a call posts is sent by the next.
-    static void deliver()
-    {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::sendPostedEvents();
-    }
-
-    qint64 m_elapsed = 0;
-    QVariantAnimation m_animation;
-};
+    constexpr int step = 10;
+    for (int passed = 0; passed < milliseconds; passed += step)
+        clock.step(step);
+}
 
 bool isLoading(const QQuickItem &item)
 {
@@ -82,7 +49,7 @@ void settle(const QQuickWindow &window)
     } while (timer.elapsed() < patience);
 }
 
-bool takeShot(QQuickWindow &window, Clock &clock, int page, int shot, const QString &path)
+bool takeShot(QQuickWindow &window, AnimationClock &clock, int page, int shot, const QString &path)
 {
     QMetaObject::invokeMethod(&window, "openPage", page);
     settle(window);
@@ -98,7 +65,7 @@ bool takeShot(QQuickWindow &window, Clock &clock, int page, int shot, const QStr
     if (time > 0) {
         // Views lay out their items with a frame, and move on from there.
         window.grabWindow();
-        clock.pass(time);
+        pass(clock, time);
         settle(window);
     }
     // What the first frame changes, such as the size of a text, is in the second.
@@ -118,7 +85,8 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
         errors << "kelui-gallery: cannot make the folder " << folder.path() << '\n';
         return false;
     }
-    Clock clock;
+    // No picture depends on when it was taken.
+    AnimationClock clock;
     // No window system gives focus to a window that is not shown.
     window.contentItem()->setFocus(true);
     QStringList pages;

@@ -8,7 +8,7 @@
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
 
-#include "../qml/animationclock.h"
+#include "../../gallery/animationclock.h"
 #include "language.h"
 
 using namespace Qt::StringLiterals;

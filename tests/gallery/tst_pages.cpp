@@ -7,7 +7,7 @@
 
 #include <random>
 
-#include "../qml/animationclock.h"
+#include "../../gallery/animationclock.h"
 #include "language.h"
 
 using namespace Qt::StringLiterals;

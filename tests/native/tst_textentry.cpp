@@ -9,7 +9,7 @@
 #include <array>
 #include <memory>
 
-#include "../qml/animationclock.h"
+#include "../../gallery/animationclock.h"
 #include "../qml/remote.h"
 
 using namespace Qt::StringLiterals;

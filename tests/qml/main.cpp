@@ -2,7 +2,7 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuickTest/quicktest.h>
 
-#include "animationclock.h"
+#include "../../gallery/animationclock.h"
 #include "remote.h"
 
 class Setup : public QObject
