@@ -9,15 +9,26 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 Window {
     id: _window
 
+    /*! The views of a page of a control; other pages have one. */
+    enum View {
+        Try,
+        States,
+        Code
+    }
+
     /*! Whether changes of state are animated. */
     property bool isAnimated: true
     /*! The code of the language to begin with, and of pictures that ask for no other. */
     property string language: Language.code
 
     property int currentIndex: -1
+    property int currentView: Main.Try
     property bool isInMenu: true
+    /*! Whether the keys go to the tabs of the views. */
+    property bool isInTabs: false
     /*! Whether the menu is on the line below the pages. */
     property bool isOnLanguage: false
+    readonly property PageEntry currentEntry: pages[currentIndex] ?? null
     readonly property GalleryPage currentPage: _loader.item as GalleryPage
 
     readonly property list<PageEntry> pages: [
@@ -29,112 +40,190 @@ Window {
             HomePage {}
         },
         PageEntry {
-            name: "Text"
-            icon: "text"
+            name: "Controls"
+            title: qsTr("Controls")
+            icon: "grid"
 
-            TextPage {}
-        },
-        PageEntry {
-            name: "Button"
-            icon: "button"
-
-            ButtonPage {}
-        },
-        PageEntry {
-            name: "Icon"
-            icon: "icons"
-
-            IconPage {}
-        },
-        PageEntry {
-            name: "ImageColorizer"
-            icon: "palette"
-
-            ImageColorizerPage {}
-        },
-        PageEntry {
-            name: "Images"
-            title: qsTr("Images")
-            icon: "picture"
-
-            ImagePage {}
-        },
-        PageEntry {
-            name: "Rectangle"
-            icon: "box"
-
-            RectanglePage {}
+            ControlsPage {
+                entries: _window.pages
+            }
         },
         PageEntry {
             name: "Search"
             title: qsTr("Search")
             icon: "search"
 
-            SearchPage {}
+            SearchPage {
+                entries: _window.pages
+            }
         },
         PageEntry {
-            name: "Vocabulary"
-            title: qsTr("Vocabulary")
-            icon: "book"
+            name: "Button"
+            group: "buttons"
+            summary: qsTr("A button with a title, a subtitle and two icons")
 
-            VocabularyPage {}
+            ButtonPage {}
+        },
+        PageEntry {
+            name: "CheckBox"
+            group: "buttons"
+            summary: qsTr("A box to check, with a title beside it")
+
+            CheckBoxPage {}
         },
         PageEntry {
             name: "MainMenuButton"
-            icon: "menu"
+            group: "buttons"
+            summary: qsTr("A line of a main menu: icon, text and picture")
 
             MainMenuButtonPage {}
         },
         PageEntry {
             name: "TabButton"
-            icon: "tabs"
+            group: "buttons"
+            summary: qsTr("One tab of a bar")
 
             TabButtonPage {}
         },
         PageEntry {
-            name: "CheckBox"
-            icon: "checkbox"
+            name: "Key"
+            group: "typing"
+            summary: qsTr("One key of the on-screen keyboard")
 
-            CheckBoxPage {}
+            SearchPage {}
         },
         PageEntry {
-            name: "Lists"
-            title: qsTr("Lists")
-            icon: "list"
+            name: "Keyboard"
+            group: "typing"
+            summary: qsTr("The on-screen keyboard and its layouts")
+
+            SearchPage {}
+        },
+        PageEntry {
+            name: "LineEdit"
+            group: "typing"
+            summary: qsTr("A line of text that the remote edits")
+
+            SearchPage {}
+        },
+        PageEntry {
+            name: "Text"
+            group: "text"
+            summary: qsTr("Plain text in one colour and font")
+
+            TextPage {}
+        },
+        PageEntry {
+            name: "ClippableImage"
+            group: "pictures"
+            summary: qsTr("A window onto the middle of an image")
+
+            ImagePage {}
+        },
+        PageEntry {
+            name: "Icon"
+            group: "pictures"
+            summary: qsTr("An image file in one colour")
+
+            IconPage {}
+        },
+        PageEntry {
+            name: "ImageColorizer"
+            group: "pictures"
+            summary: qsTr("Gives an image another colour")
+
+            ImageColorizerPage {}
+        },
+        PageEntry {
+            name: "Rectangle"
+            group: "pictures"
+            summary: qsTr("A filled box with a border")
+
+            RectanglePage {}
+        },
+        PageEntry {
+            name: "RoundedImage"
+            group: "pictures"
+            summary: qsTr("An image, drawn without OpenGL")
+
+            ImagePage {}
+        },
+        PageEntry {
+            name: "Highlight"
+            group: "lists"
+            summary: qsTr("What a list scrolls after")
 
             ListsPage {}
         },
         PageEntry {
-            name: "Grid"
-            title: qsTr("Grid")
-            icon: "grid"
+            name: "LayoutSpacer"
+            group: "lists"
+            summary: qsTr("Room in a layout")
+
+            LayoutPage {}
+        },
+        PageEntry {
+            name: "MediaBlock"
+            group: "lists"
+            summary: qsTr("What blocks of posters have in common")
+
+            LayoutPage {}
+        },
+        PageEntry {
+            name: "ScrolledGridView"
+            group: "lists"
+            summary: qsTr("A grid given by its elements and gaps")
 
             GridPage {}
         },
         PageEntry {
+            name: "ScrolledListView"
+            group: "lists"
+            summary: qsTr("A list that keeps its current item in sight")
+
+            ListsPage {}
+        },
+        PageEntry {
             name: "BusyIndicator"
-            icon: "hourglass"
+            group: "indicators"
+            summary: qsTr("Waiting, told by strips of frames and two texts")
 
             BusyIndicatorPage {}
         },
         PageEntry {
-            name: "SpinnerIndicator"
-            icon: "spinner"
-
-            SpinnerIndicatorPage {}
-        },
-        PageEntry {
             name: "RewindIcon"
-            icon: "rewind"
+            group: "indicators"
+            summary: qsTr("The speed of winding, three arrows and a text")
 
             RewindIconPage {}
         },
         PageEntry {
-            name: "Layout"
-            title: qsTr("Layout")
-            icon: "layout"
+            name: "SpinnerIndicator"
+            group: "indicators"
+            summary: qsTr("An arc that turns on a ring")
 
-            LayoutPage {}
+            SpinnerIndicatorPage {}
+        },
+        PageEntry {
+            name: "AnimationInterpolators"
+            group: "vocabulary"
+            summary: qsTr("Curves for animations")
+
+            VocabularyPage {}
+        },
+        PageEntry {
+            name: "KelGlobal"
+            group: "vocabulary"
+            summary: qsTr("Key layouts and enumerations that all share")
+
+            VocabularyPage {}
+        },
+        PageEntry {
+            name: "PluginInfo"
+            group: "vocabulary"
+            summary: qsTr("The name and the version of the module")
+
+            VocabularyPage {}
         }
     ]
 
@@ -150,10 +239,20 @@ Window {
 
     /*! Opens a page afresh; focus stays in the menu. */
     function openPage(index: int) {
+        openView(index, Main.Try);
+    }
+
+    function openView(index: int, view: int) {
         isInMenu = true;
+        isInTabs = false;
         isOnLanguage = false;
         currentIndex = -1;
+        currentView = view;
         currentIndex = index;
+    }
+
+    function viewCount(index: int): int {
+        return pages[index].isControl ? 3 : 1;
     }
 
     /*! The number of a page by its name in any case, or by its digit; -1 for none. */
@@ -172,16 +271,26 @@ Window {
         return names;
     }
 
+    /*! The pictures of the view. Of the states that controls share, each takes its own. */
+    function currentShots(): list<Shot> {
+        const shots = [];
+        for (const shot of currentPage.shots) {
+            if (!currentEntry.isControl || shot.name.split("-")[0] === currentEntry.name)
+                shots.push(shot);
+        }
+        return shots;
+    }
+
     function shotNames(): list<string> {
         const names = [];
-        for (const shot of currentPage.shots)
+        for (const shot of currentShots())
             names.push(shot.name);
         return names;
     }
 
     /*! Puts the page into the state of a picture; the digits to press then. */
     function takeShot(index: int): string {
-        const shot = currentPage.shots[index];
+        const shot = currentShots()[index];
         Language.code = shot.language || language;
         shot.taken();
         isInMenu = currentPage.focusedStop === null;
@@ -190,7 +299,7 @@ Window {
 
     /*! The milliseconds to let pass then. */
     function shotTime(index: int): int {
-        return currentPage.shots[index].time;
+        return currentShots()[index].time;
     }
 
     function nextLanguage() {
@@ -202,27 +311,38 @@ Window {
         if (!currentPage || !currentPage.focusFirst())
             return false;
         isInMenu = false;
+        isInTabs = false;
         return true;
     }
 
     function leavePage() {
         currentPage.focusedStop = null;
+        isInTabs = false;
         isInMenu = true;
+    }
+
+    function enterTabs() {
+        currentPage.focusedStop = null;
+        isInMenu = false;
+        isInTabs = true;
+    }
+
+    /*! From line to line, round over the line of the language, which leaves the page open. */
+    function moveInMenu(step: int) {
+        const count = pages.length;
+        const line = ((isOnLanguage ? count : currentIndex) + step + count + 1) % (count + 1);
+        isOnLanguage = line === count && _language.visible;
+        if (!isOnLanguage)
+            currentIndex = line % count;
     }
 
     function handleMenuKey(key: int): bool {
         switch (key) {
         case Qt.Key_Up:
-            if (isOnLanguage)
-                isOnLanguage = false;
-            else
-                currentIndex = Math.max(0, currentIndex - 1);
+            moveInMenu(-1);
             return true;
         case Qt.Key_Down:
-            if (currentIndex < pages.length - 1)
-                ++currentIndex;
-            else
-                isOnLanguage = _language.visible;
+            moveInMenu(1);
             return true;
         case Qt.Key_Right:
             if (!isOnLanguage)
@@ -245,12 +365,45 @@ Window {
         return handleDigit(key);
     }
 
+    function handleTabKey(key: int): bool {
+        switch (key) {
+        case Qt.Key_Left:
+            if (currentView > 0)
+                --currentView;
+            else
+                leavePage();
+            return true;
+        case Qt.Key_Right:
+            if (currentView < viewCount(currentIndex) - 1)
+                ++currentView;
+            return true;
+        case Qt.Key_Down:
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Select:
+            enterPage();
+            return true;
+        case Qt.Key_Up:
+            return true;
+        case Qt.Key_Escape:
+        case Qt.Key_Backspace:
+        case Qt.Key_Back:
+            leavePage();
+            return true;
+        }
+        return handleDigit(key);
+    }
+
     function handlePageKey(key: int, text: string): bool {
         if (currentPage.handleKey(key, text))
             return true;
         if (currentPage.keyTarget)
             return false;
         switch (key) {
+        case Qt.Key_Up:
+            if (currentEntry.isControl)
+                enterTabs();
+            return true;
         case Qt.Key_Left:
         case Qt.Key_Escape:
         case Qt.Key_Backspace:
@@ -291,7 +444,8 @@ Window {
 
             Keys.onPressed: event => {
                 event.accepted = _window.isInMenu ? _window.handleMenuKey(event.key)
-                                                  : _window.handlePageKey(event.key, event.text);
+                                 : _window.isInTabs ? _window.handleTabKey(event.key)
+                                 : _window.handlePageKey(event.key, event.text);
             }
         }
 
@@ -325,13 +479,13 @@ Window {
         Item {
             id: _menu
 
-            readonly property int step: 60
-            readonly property int firstVisible: Math.max(0, Math.min(_window.currentIndex - 6, _window.pages.length - 8))
+            readonly property int step: 48
+            readonly property int firstVisible: Math.max(0, Math.min(_window.currentIndex - 7, _window.pages.length - 10))
 
             x: _scene.menuX
             y: 148
             width: 248
-            height: step * 8
+            height: step * 10
             clip: true
 
             Column {
@@ -348,8 +502,12 @@ Window {
                         required property PageEntry modelData
                         readonly property bool isCurrent: index === _window.currentIndex
 
+                        fixedSize: Qt.size(248, 44)
+                        spacing: modelData.isControl ? 0 : 12
+                        titleFont: modelData.isControl ? Theme.sizedFont(18, Font.DemiBold) : Theme.menu
                         titleText: modelData.title
-                        leftIconSource: Theme.icon(modelData.icon)
+                        leftIconSource: modelData.isControl ? "" : Theme.icon(modelData.icon)
+                        leftIconSize: modelData.isControl ? Qt.size(0, 0) : Qt.size(32, 32)
                         focused: isCurrent && _window.isInMenu && !_window.isOnLanguage
                         checked: isCurrent && !focused
                     }
@@ -372,10 +530,36 @@ Window {
         Label {
             x: _scene.pageX
             y: 40
-            width: 840
             maximumLineCount: 1
             font: Theme.display
-            text: _window.currentIndex >= 0 ? _window.pages[_window.currentIndex].title : ""
+            text: _window.currentEntry?.title ?? ""
+        }
+
+        Row {
+            id: _tabs
+
+            x: _scene.pageX + 840 - width
+            y: 40
+            spacing: 8
+            visible: _window.currentEntry?.isControl ?? false
+
+            Repeater {
+                model: [qsTr("Try"), qsTr("States"), qsTr("Code")]
+
+                ViewTab {
+                    required property int index
+                    required property string modelData
+
+                    text: modelData
+                    checked: index === _window.currentView
+                    focused: checked && _window.isInTabs
+
+                    onClicked: {
+                        _window.currentView = index;
+                        _window.enterTabs();
+                    }
+                }
+            }
         }
 
         Caption {
@@ -397,12 +581,45 @@ Window {
             height: isFullScreen ? _scene.height : 484
             transformOrigin: Item.TopLeft
             scale: isPreview ? 840 / _scene.width : 1
-            sourceComponent: _window.currentIndex >= 0 ? _window.pages[_window.currentIndex].page : null
+            sourceComponent: {
+                if (!_window.currentEntry)
+                    return null;
+                if (!_window.currentEntry.isControl || _window.currentView === Main.States)
+                    return _window.currentEntry.page;
+                return _window.currentView === Main.Try ? _try : _code;
+            }
 
             // Why is on the console already; a window without its page would be no help.
             onStatusChanged: {
                 if (status === Loader.Error)
                     Qt.exit(1);
+            }
+        }
+
+        Component {
+            id: _try
+
+            TryPage {
+                name: _window.currentEntry?.name ?? ""
+                summary: _window.currentEntry?.summary ?? ""
+            }
+        }
+
+        Component {
+            id: _code
+
+            CodePage {
+                name: _window.currentEntry?.name ?? ""
+                summary: _window.currentEntry?.summary ?? ""
+            }
+        }
+
+        Connections {
+            target: _window.currentPage
+
+            function onPageRequested(name: string) {
+                _window.openPage(_window.pageIndex(name));
+                _window.enterPage();
             }
         }
 
@@ -414,7 +631,12 @@ Window {
             spacing: 10
 
             Hint {
-                key: "← ↑ ↓ →"
+                key: visible ? "← →" : ""
+                meaning: _window.currentPage?.sideKeysMeaning ?? ""
+                visible: meaning !== ""
+            }
+            Hint {
+                key: _window.currentPage?.sideKeysMeaning ? "↑ ↓" : "← ↑ ↓ →"
                 meaning: qsTr("move")
             }
             Hint {

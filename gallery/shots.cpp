@@ -49,9 +49,9 @@ void settle(const QQuickWindow &window)
     } while (timer.elapsed() < patience);
 }
 
-bool takeShot(QQuickWindow &window, AnimationClock &clock, int page, int shot, const QString &path)
+bool takeShot(QQuickWindow &window, AnimationClock &clock, int page, int view, int shot, const QString &path)
 {
-    QMetaObject::invokeMethod(&window, "openPage", page);
+    QMetaObject::invokeMethod(&window, "openView", page, view);
     settle(window);
     QString digits;
     QMetaObject::invokeMethod(&window, "takeShot", qReturnArg(digits), shot);
@@ -92,22 +92,26 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
     QStringList pages;
     QMetaObject::invokeMethod(&window, "pageNames", qReturnArg(pages));
     for (int page = 0; page < pages.size(); ++page) {
-        QMetaObject::invokeMethod(&window, "openPage", page);
-        settle(window);
-        if (!window.property("currentPage").value<QQuickItem *>()) {
-            errors << "kelui-gallery: cannot show the page " << pages.at(page) << '\n';
-            return false;
-        }
-        QStringList names;
-        QMetaObject::invokeMethod(&window, "shotNames", qReturnArg(names));
-        for (int shot = 0; shot < names.size(); ++shot) {
-            const QString path = folder.filePath(names.at(shot) + QStringLiteral(".png"));
-            if (!takeShot(window, clock, page, shot, path)) {
-                errors << "kelui-gallery: cannot make the picture " << path << '\n';
+        int views = 0;
+        QMetaObject::invokeMethod(&window, "viewCount", qReturnArg(views), page);
+        for (int view = 0; view < views; ++view) {
+            QMetaObject::invokeMethod(&window, "openView", page, view);
+            settle(window);
+            if (!window.property("currentPage").value<QQuickItem *>()) {
+                errors << "kelui-gallery: cannot show the page " << pages.at(page) << '\n';
                 return false;
             }
-            output << path << '\n';
-            output.flush();
+            QStringList names;
+            QMetaObject::invokeMethod(&window, "shotNames", qReturnArg(names));
+            for (int shot = 0; shot < names.size(); ++shot) {
+                const QString path = folder.filePath(names.at(shot) + QStringLiteral(".png"));
+                if (!takeShot(window, clock, page, view, shot, path)) {
+                    errors << "kelui-gallery: cannot make the picture " << path << '\n';
+                    return false;
+                }
+                output << path << '\n';
+                output.flush();
+            }
         }
     }
     return true;

@@ -20,11 +20,15 @@ Item {
     property Item focusedStop: null
     /*! Gets the keys that the page does not handle; meanwhile digits open no pages. */
     property Item keyTarget: null
+    /*! What left and right do now, where they do not move the focus. */
+    property string sideKeysMeaning
 
     readonly property list<Item> stops: []
 
     /*! OK on a stop that is not a button. */
     signal activated(stop: Item)
+    /*! Another page is to be opened, by its name. */
+    signal pageRequested(name: string)
 
     function addStop(stop: Item) {
         stops.push(stop);

@@ -8,6 +8,14 @@ QtObject {
     /*! Names the page in every language, such as that of its component. */
     required property string name
     property string title: name
-    required property string icon
+    property string icon
+    /*!
+        Where the page Controls lists a component of the module; empty for other pages. There is an example of the
+        name of each component, and the page below shows its states.
+    */
+    property string group
+    /*! What the component is, in a line. */
+    property string summary
+    readonly property bool isControl: group !== ""
     default property Component page
 }

@@ -23,6 +23,9 @@ QtObject {
     readonly property color positive: "#1b6b5f"
     readonly property color mint: "#7fe3c4"
     readonly property color rose: "#ff9aa8"
+    readonly property list<color> palette: [
+        text, accent, mint, rose, positive, raised, outline, ink, "#80ffffff", "#00000000"
+    ]
 
     readonly property font display: sizedFont(40, Font.Bold)
     readonly property font heading: sizedFont(26, Font.Bold)
@@ -34,6 +37,7 @@ QtObject {
     readonly property font field: controlFont(22, Font.Normal)
     readonly property font key: controlFont(24, Font.DemiBold)
     readonly property font smallKey: controlFont(20, Font.DemiBold)
+    readonly property font code: Qt.font({ family: "DejaVu Sans Mono", pixelSize: 16 })
 
     readonly property var buttonBackgrounds: ({
         disabled: "#161d28", checked: positive, focused: accent, normal: raised

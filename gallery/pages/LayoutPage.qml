@@ -12,10 +12,10 @@ GalleryPage {
     caption: qsTr("LayoutSpacer keeps items apart; MediaBlock is what blocks of posters build on")
     shots: [
         Shot {
-            name: "Layout"
+            name: "LayoutSpacer"
         },
         Shot {
-            name: "Layout-fixed"
+            name: "LayoutSpacer-fixed"
 
             onTaken: {
                 for (const stop of [_row, _column]) {

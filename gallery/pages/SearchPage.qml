@@ -8,6 +8,20 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 GalleryPage {
     id: _page
 
+    /*! The pages that the search field finds by their names. */
+    property list<PageEntry> entries
+    readonly property list<PageEntry> results: {
+        const found = [];
+        const sought = _search.text.toLowerCase();
+        for (const entry of entries) {
+            const isFound = entry.name.toLowerCase().includes(sought) || entry.title.toLowerCase().includes(sought);
+            if (sought && isFound && found.length < 5)
+                found.push(entry);
+        }
+        return found;
+    }
+    readonly property bool hasResults: results.length > 0
+
     /*! The field that the keyboard is for. */
     property FormField currentField: _search
     /*! The key in focus, null while the fields have it. */
@@ -27,6 +41,11 @@ GalleryPage {
             name: "Search-english"
 
             onTaken: _page.type(_search, ["Eng", "k", "e", "l", "u", "i"])
+        },
+        Shot {
+            name: "Search-results"
+
+            onTaken: _page.type(_search, ["Eng", "b", "u", "t"])
         },
         Shot {
             name: "Search-symbols"
@@ -86,8 +105,9 @@ GalleryPage {
     ]
 
     onFocusedStopChanged: {
-        if (focusedStop)
-            currentField = focusedStop as FormField;
+        const field = focusedStop as FormField;
+        if (field)
+            currentField = field;
     }
     onCurrentFieldChanged: showKeyboard()
     Component.onCompleted: showKeyboard()
@@ -102,6 +122,7 @@ GalleryPage {
     }
 
     function editField() {
+        focusedStop = currentField;
         keyTarget = currentField;
         if (!_navigation.currentKey)
             _navigation.focusKey(0);
@@ -124,6 +145,8 @@ GalleryPage {
         case Qt.Key_Return:
         case Qt.Key_Enter:
         case Qt.Key_Select:
+            if (focusedStop !== currentField)
+                return handleStopKey(key);
             editField();
             return true;
         }
@@ -192,6 +215,7 @@ GalleryPage {
             id: _name
 
             page: _page
+            visible: !_page.hasResults
             caption: qsTr("Name")
             placeholderText: qsTr("As others see it")
             keyboardType: Generic.KelGlobal.AlphabeticKeyboard
@@ -204,6 +228,7 @@ GalleryPage {
             readonly property int digitCount: text.replace(/\D/g, "").length
 
             page: _page
+            visible: !_page.hasResults
             caption: qsTr("Phone")
             errorCaption: qsTr("Phone: digits are missing")
             inputMask: "+7 (999) 999-99-99;_"
@@ -215,6 +240,7 @@ GalleryPage {
             id: _password
 
             page: _page
+            visible: !_page.hasResults
             caption: qsTr("Password")
             placeholderText: qsTr("Letters and digits")
             echoMode: TextInput.Password
@@ -225,6 +251,7 @@ GalleryPage {
             id: _email
 
             page: _page
+            visible: !_page.hasResults
             caption: qsTr("E-mail")
             placeholderText: qsTr("name@example.com")
             errorCaption: qsTr("E-mail: not an address")
@@ -236,11 +263,29 @@ GalleryPage {
             id: _code
 
             page: _page
+            visible: !_page.hasResults
             caption: qsTr("Promo code")
             placeholderText: qsTr("8 characters")
             errorCaption: qsTr("Promo code: 8 characters")
             keyboardLayout: Generic.KelGlobal.EnglishLayout
             isAcceptable: text.length === 0 || text.length === 8
+        }
+
+        // In the places of the other fields. Stops stay, so that there are always as many.
+        Repeater {
+            model: 5
+
+            StateButton {
+                required property int index
+                readonly property PageEntry entry: _page.results[index] ?? null
+
+                page: _page
+                visible: entry !== null
+                fixedSize: Qt.size(272, 54)
+                titleText: entry?.title ?? ""
+
+                onClicked: _page.pageRequested(entry.name)
+            }
         }
     }
 

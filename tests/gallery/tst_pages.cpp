@@ -28,13 +28,14 @@ private Q_SLOTS:
 
 private:
     void load(const QString &language);
-    void open(int index);
+    void open(int index, int view = 0);
     void press(Qt::Key key);
     void activate();
     void checkFocus();
     QQuickItem *page() const { return m_window->property("currentPage").value<QQuickItem *>(); }
     QQuickItem *focused() const { return page()->property("focusedStop").value<QQuickItem *>(); }
     QQuickItem *keyTarget() const { return page()->property("keyTarget").value<QQuickItem *>(); }
+    bool isInTabs() const { return m_window->property("isInTabs").toBool(); }
     bool isInMenu() const { return m_window->property("isInMenu").toBool(); }
     QList<QQuickItem *> stops() const;
 
@@ -64,9 +65,9 @@ void tst_pages::load(const QString &language)
     QVERIFY(m_window);
 }
 
-void tst_pages::open(int index)
+void tst_pages::open(int index, int view)
 {
-    QMetaObject::invokeMethod(m_window, "openPage", index);
+    QMetaObject::invokeMethod(m_window, "openView", index, view);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     m_keyReceiver = m_window->activeFocusItem();
@@ -91,13 +92,14 @@ void tst_pages::activate()
     QVERIFY(!keyTarget());
 }
 
-//! Either the menu has focus, or a stop that can be seen and used.
+//! Either the menu has focus, or the tabs above a page, or a stop that can be seen and used.
 void tst_pages::checkFocus()
 {
     QCOMPARE(m_window->activeFocusItem(), m_keyReceiver);
     QVERIFY(page());
-    QCOMPARE(isInMenu(), focused() == nullptr);
-    if (isInMenu())
+    QCOMPARE(isInMenu() || isInTabs(), focused() == nullptr);
+    QVERIFY(!isInMenu() || !isInTabs());
+    if (!focused())
         return;
     QVERIFY(stops().contains(focused()));
     QVERIFY(focused()->isVisible());
@@ -117,18 +119,24 @@ void tst_pages::everyStopIsReached_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("index");
+    QTest::addColumn<int>("view");
     load(Language::codes().constFirst());
     QStringList names;
     QMetaObject::invokeMethod(m_window, "pageNames", qReturnArg(names));
     QVERIFY(!names.isEmpty());
     const QStringList languages = Language::codes();
     for (int index = 0; index < names.size(); ++index) {
-        open(index);
-        // Home moves its focus itself; it has a test of its own.
-        if (page()->property("isFullScreen").toBool())
-            continue;
-        for (const QString &language : languages)
-            QTest::addRow("%s %s", qPrintable(language), qPrintable(names.at(index))) << language << index;
+        int views = 0;
+        QMetaObject::invokeMethod(m_window, "viewCount", qReturnArg(views), index);
+        for (int view = 0; view < views; ++view) {
+            open(index, view);
+            // Home moves its focus itself; it has a test of its own.
+            if (page()->property("isFullScreen").toBool())
+                continue;
+            for (const QString &language : languages)
+                QTest::addRow("%s %s %d", qPrintable(language), qPrintable(names.at(index)), view)
+                    << language << index << view;
+        }
     }
     m_engine.reset();
 }
@@ -137,8 +145,11 @@ void tst_pages::everyStopIsReached()
 {
     QFETCH(const QString, language);
     QFETCH(const int, index);
+    QFETCH(const int, view);
     load(language);
-    open(index);
+    open(index, view);
+    int listing = -1;
+    QMetaObject::invokeMethod(m_window, "pageIndex", qReturnArg(listing), u"Controls"_s);
 
     // Aimless, so that no page has to be known here, yet the same each time; on the whole away from the menu.
     constexpr int patience = 1000;
@@ -148,13 +159,16 @@ void tst_pages::everyStopIsReached()
     QSet<QQuickItem *> visited;
     for (int i = 0; i < patience && visited.size() < stops().size(); ++i) {
         QQuickItem *before = focused();
-        press(before ? arrows.at(random() % arrows.size()) : Qt::Key_Right);
+        press(before ? arrows.at(random() % arrows.size()) : isInTabs() ? Qt::Key_Down : Qt::Key_Right);
         if (QTest::currentTestFailed())
             return;
         QVERIFY(before || focused());
         if (!focused() || focused() == before)
             continue;
         visited += focused();
+        // Each of its stops opens another page.
+        if (index == listing)
+            continue;
         activate();
         if (QTest::currentTestFailed())
             return;
@@ -166,8 +180,10 @@ void tst_pages::everyStopIsReached()
             QVERIFY2(visited.contains(stop), qPrintable(QDebug::toString(stop)));
     }
 
-    if (isInMenu())
-        press(Qt::Key_Right);
+    if (keyTarget())
+        press(Qt::Key_Back);
+    if (!focused())
+        press(isInTabs() ? Qt::Key_Down : Qt::Key_Right);
     press(Qt::Key_Back);
     QVERIFY(isInMenu());
     press(Qt::Key_Return);
@@ -182,9 +198,9 @@ void tst_pages::heldArrowScrolls_data()
     QTest::addColumn<QByteArray>("position");
     QTest::addColumn<int>("presses");
     QTest::addColumn<int>("expectedIndex");
-    QTest::newRow("list") << u"Lists"_s << 0 << Qt::Key_Down << "contentY"_ba << 13 << 13;
-    QTest::newRow("carousel") << u"Lists"_s << 1 << Qt::Key_Right << "contentX"_ba << 7 << 7;
-    QTest::newRow("grid") << u"Grid"_s << 0 << Qt::Key_Down << "contentY"_ba << 20 << 120;
+    QTest::newRow("list") << u"ScrolledListView"_s << 0 << Qt::Key_Down << "contentY"_ba << 13 << 13;
+    QTest::newRow("carousel") << u"ScrolledListView"_s << 1 << Qt::Key_Right << "contentX"_ba << 7 << 7;
+    QTest::newRow("grid") << u"ScrolledGridView"_s << 0 << Qt::Key_Down << "contentY"_ba << 20 << 120;
 }
 
 //! From frame to frame the content goes on, never back and never by leaps, until the item has come into view.
@@ -199,7 +215,8 @@ void tst_pages::heldArrowScrolls()
     load(Language::codes().constFirst());
     int index = -1;
     QMetaObject::invokeMethod(m_window, "pageIndex", qReturnArg(index), name);
-    open(index);
+    constexpr int states = 1;
+    open(index, states);
     AnimationClock clock;
     for (int i = 0; i <= stopsToTheRight; ++i)
         press(Qt::Key_Right);
