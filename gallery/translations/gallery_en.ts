@@ -142,6 +142,41 @@
     </message>
 </context>
 <context>
+    <name>ControlsPage</name>
+    <message>
+        <source>Each with its properties, its states, and the code that makes it</source>
+        <translation>Each with its properties, its states, and the code that makes it</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Buttons</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Typing</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Lists and layout</source>
+        <translation>Lists and layout</translation>
+    </message>
+    <message>
+        <source>Indicators</source>
+        <translation>Indicators</translation>
+    </message>
+    <message>
+        <source>Vocabulary</source>
+        <translation>Vocabulary</translation>
+    </message>
+</context>
+<context>
     <name>DetailsZone</name>
     <message>
         <source>Watch</source>
@@ -917,16 +952,8 @@
         <translation>page</translation>
     </message>
     <message>
-        <source>Images</source>
-        <translation>Images</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>Search</translation>
-    </message>
-    <message>
-        <source>Vocabulary</source>
-        <translation>Vocabulary</translation>
     </message>
     <message>
         <source>English</source>
@@ -934,20 +961,120 @@
         <translation>English</translation>
     </message>
     <message>
-        <source>Lists</source>
-        <translation>Lists</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Grid</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>Layout</translation>
-    </message>
-    <message>
         <source>Home</source>
         <translation>Home</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Controls</translation>
+    </message>
+    <message>
+        <source>A button with a title, a subtitle and two icons</source>
+        <translation>A button with a title, a subtitle and two icons</translation>
+    </message>
+    <message>
+        <source>A box to check, with a title beside it</source>
+        <translation>A box to check, with a title beside it</translation>
+    </message>
+    <message>
+        <source>A line of a main menu: icon, text and picture</source>
+        <translation>A line of a main menu: icon, text and picture</translation>
+    </message>
+    <message>
+        <source>One tab of a bar</source>
+        <translation>One tab of a bar</translation>
+    </message>
+    <message>
+        <source>One key of the on-screen keyboard</source>
+        <translation>One key of the on-screen keyboard</translation>
+    </message>
+    <message>
+        <source>The on-screen keyboard and its layouts</source>
+        <translation>The on-screen keyboard and its layouts</translation>
+    </message>
+    <message>
+        <source>A line of text that the remote edits</source>
+        <translation>A line of text that the remote edits</translation>
+    </message>
+    <message>
+        <source>Plain text in one colour and font</source>
+        <translation>Plain text in one colour and font</translation>
+    </message>
+    <message>
+        <source>A window onto the middle of an image</source>
+        <translation>A window onto the middle of an image</translation>
+    </message>
+    <message>
+        <source>An image file in one colour</source>
+        <translation>An image file in one colour</translation>
+    </message>
+    <message>
+        <source>Gives an image another colour</source>
+        <translation>Gives an image another colour</translation>
+    </message>
+    <message>
+        <source>A filled box with a border</source>
+        <translation>A filled box with a border</translation>
+    </message>
+    <message>
+        <source>An image, drawn without OpenGL</source>
+        <translation>An image, drawn without OpenGL</translation>
+    </message>
+    <message>
+        <source>What a list scrolls after</source>
+        <translation>What a list scrolls after</translation>
+    </message>
+    <message>
+        <source>Room in a layout</source>
+        <translation>Room in a layout</translation>
+    </message>
+    <message>
+        <source>What blocks of posters have in common</source>
+        <translation>What blocks of posters have in common</translation>
+    </message>
+    <message>
+        <source>A grid given by its elements and gaps</source>
+        <translation>A grid given by its elements and gaps</translation>
+    </message>
+    <message>
+        <source>A list that keeps its current item in sight</source>
+        <translation>A list that keeps its current item in sight</translation>
+    </message>
+    <message>
+        <source>Waiting, told by strips of frames and two texts</source>
+        <translation>Waiting, told by strips of frames and two texts</translation>
+    </message>
+    <message>
+        <source>The speed of winding, three arrows and a text</source>
+        <translation>The speed of winding, three arrows and a text</translation>
+    </message>
+    <message>
+        <source>An arc that turns on a ring</source>
+        <translation>An arc that turns on a ring</translation>
+    </message>
+    <message>
+        <source>Curves for animations</source>
+        <translation>Curves for animations</translation>
+    </message>
+    <message>
+        <source>Key layouts and enumerations that all share</source>
+        <translation>Key layouts and enumerations that all share</translation>
+    </message>
+    <message>
+        <source>The name and the version of the module</source>
+        <translation>The name and the version of the module</translation>
+    </message>
+    <message>
+        <source>Try</source>
+        <translation>Try</translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation>States</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
     </message>
 </context>
 <context>
@@ -1171,6 +1298,21 @@
     <message>
         <source>text: markup stays as typed, RTL at the right</source>
         <translation>text: markup stays as typed, RTL at the right</translation>
+    </message>
+</context>
+<context>
+    <name>TryPage</name>
+    <message>
+        <source>change</source>
+        <translation>change</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,41 @@
     </message>
 </context>
 <context>
+    <name>ControlsPage</name>
+    <message>
+        <source>Each with its properties, its states, and the code that makes it</source>
+        <translation>Свойства, состояния и код каждого из них</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Кнопки</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Ввод</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Картинки</translation>
+    </message>
+    <message>
+        <source>Lists and layout</source>
+        <translation>Раскладка</translation>
+    </message>
+    <message>
+        <source>Indicators</source>
+        <translation>Индикаторы</translation>
+    </message>
+    <message>
+        <source>Vocabulary</source>
+        <translation>Словарь</translation>
+    </message>
+</context>
+<context>
     <name>DetailsZone</name>
     <message>
         <source>Watch</source>
@@ -917,16 +952,8 @@
         <translation>раздел</translation>
     </message>
     <message>
-        <source>Images</source>
-        <translation>Картинки</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>Поиск</translation>
-    </message>
-    <message>
-        <source>Vocabulary</source>
-        <translation>Словарь</translation>
     </message>
     <message>
         <source>English</source>
@@ -934,20 +961,120 @@
         <translation>Русский</translation>
     </message>
     <message>
-        <source>Lists</source>
-        <translation>Списки</translation>
-    </message>
-    <message>
-        <source>Grid</source>
-        <translation>Сетка</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>Раскладка</translation>
-    </message>
-    <message>
         <source>Home</source>
         <translation>Главная</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Компоненты</translation>
+    </message>
+    <message>
+        <source>A button with a title, a subtitle and two icons</source>
+        <translation>Кнопка с заголовком, подписью и двумя значками</translation>
+    </message>
+    <message>
+        <source>A box to check, with a title beside it</source>
+        <translation>Флажок с текстом рядом</translation>
+    </message>
+    <message>
+        <source>A line of a main menu: icon, text and picture</source>
+        <translation>Строка главного меню: значок, текст и картинка</translation>
+    </message>
+    <message>
+        <source>One tab of a bar</source>
+        <translation>Одна вкладка из ряда</translation>
+    </message>
+    <message>
+        <source>One key of the on-screen keyboard</source>
+        <translation>Одна клавиша экранной клавиатуры</translation>
+    </message>
+    <message>
+        <source>The on-screen keyboard and its layouts</source>
+        <translation>Экранная клавиатура и её раскладки</translation>
+    </message>
+    <message>
+        <source>A line of text that the remote edits</source>
+        <translation>Строка текста, которую правит пульт</translation>
+    </message>
+    <message>
+        <source>Plain text in one colour and font</source>
+        <translation>Простой текст одного цвета и шрифта</translation>
+    </message>
+    <message>
+        <source>A window onto the middle of an image</source>
+        <translation>Окно, в котором видна середина картинки</translation>
+    </message>
+    <message>
+        <source>An image file in one colour</source>
+        <translation>Файл картинки, закрашенный одним цветом</translation>
+    </message>
+    <message>
+        <source>Gives an image another colour</source>
+        <translation>Даёт картинке другой цвет</translation>
+    </message>
+    <message>
+        <source>A filled box with a border</source>
+        <translation>Закрашенный прямоугольник с рамкой</translation>
+    </message>
+    <message>
+        <source>An image, drawn without OpenGL</source>
+        <translation>Картинка, нарисованная без OpenGL</translation>
+    </message>
+    <message>
+        <source>What a list scrolls after</source>
+        <translation>То, за чем прокручивается список</translation>
+    </message>
+    <message>
+        <source>Room in a layout</source>
+        <translation>Свободное место в раскладке</translation>
+    </message>
+    <message>
+        <source>What blocks of posters have in common</source>
+        <translation>Общее у всех блоков с постерами</translation>
+    </message>
+    <message>
+        <source>A grid given by its elements and gaps</source>
+        <translation>Сетка, заданная элементами и промежутками</translation>
+    </message>
+    <message>
+        <source>A list that keeps its current item in sight</source>
+        <translation>Список, который держит текущий элемент на виду</translation>
+    </message>
+    <message>
+        <source>Waiting, told by strips of frames and two texts</source>
+        <translation>Ожидание: ленты кадров и два текста</translation>
+    </message>
+    <message>
+        <source>The speed of winding, three arrows and a text</source>
+        <translation>Скорость перемотки: три стрелки и текст</translation>
+    </message>
+    <message>
+        <source>An arc that turns on a ring</source>
+        <translation>Дуга, бегущая по кольцу</translation>
+    </message>
+    <message>
+        <source>Curves for animations</source>
+        <translation>Кривые для анимаций</translation>
+    </message>
+    <message>
+        <source>Key layouts and enumerations that all share</source>
+        <translation>Раскладки клавиш и общие перечисления</translation>
+    </message>
+    <message>
+        <source>The name and the version of the module</source>
+        <translation>Имя и версия модуля</translation>
+    </message>
+    <message>
+        <source>Try</source>
+        <translation>Проба</translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation>Состояния</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
     </message>
 </context>
 <context>
@@ -1171,6 +1298,21 @@
     <message>
         <source>text: markup stays as typed, RTL at the right</source>
         <translation>text: разметка видна как есть, RTL справа</translation>
+    </message>
+</context>
+<context>
+    <name>TryPage</name>
+    <message>
+        <source>change</source>
+        <translation>менять</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сброс</translation>
     </message>
 </context>
 <context>
