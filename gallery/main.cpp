@@ -89,13 +89,15 @@ int main(int argc, char **argv)
                                                     "Back (Escape or Backspace), digits for pages."));
     parser.addHelpOption();
     const QCommandLineOption shotsOption(QStringLiteral("shots"),
-        QStringLiteral("Write pictures of all pages into DIR and quit; needs no display."),
+        QStringLiteral("Write pictures of the pages into DIR and quit; needs no display."),
         QStringLiteral("DIR"));
     const QCommandLineOption sizeOption(QStringLiteral("size"),
         QStringLiteral("Size of the window or of the pictures."), QStringLiteral("WxH"),
         QStringLiteral("1280x720"));
     const QCommandLineOption pageOption(QStringLiteral("page"),
-        QStringLiteral("Open a page by its name or number."), QStringLiteral("NAME"), QStringLiteral("1"));
+        QStringLiteral(
+            "Open a page, such as that of a control, by its name or number; take pictures of it only."),
+        QStringLiteral("NAME"), QStringLiteral("1"));
     const QCommandLineOption importOption(QStringLiteral("import"),
         QStringLiteral("Look for the module in DIR instead of the folder that it was built into."),
         QStringLiteral("DIR"));
@@ -140,9 +142,6 @@ int main(int argc, char **argv)
     QObject::disconnect(collecting);
     engine.setOutputWarningsToStandardError(true);
 
-    if (isTakingShots)
-        return takeShots(*window, QDir(parser.value(shotsOption))) ? 0 : 1;
-
     int page = -1;
     QMetaObject::invokeMethod(window, "pageIndex", qReturnArg(page), parser.value(pageOption));
     if (page < 0) {
@@ -151,6 +150,12 @@ int main(int argc, char **argv)
         return fail(QStringLiteral("has no page '%1'; there are: %2")
                 .arg(parser.value(pageOption), names.join(QStringLiteral(", "))));
     }
+    if (isTakingShots)
+        return takeShots(*window, QDir(parser.value(shotsOption)),
+                   parser.isSet(pageOption) ? std::optional(page) : std::nullopt)
+            ? 0
+            : 1;
+
     QMetaObject::invokeMethod(window, "openPage", page);
     window->show();
     return QGuiApplication::exec();

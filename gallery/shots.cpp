@@ -77,7 +77,7 @@ bool takeShot(QQuickWindow &window, AnimationClock &clock, int page, int view, i
 
 } // namespace
 
-bool takeShots(QQuickWindow &window, const QDir &folder)
+bool takeShots(QQuickWindow &window, const QDir &folder, std::optional<int> onlyPage)
 {
     QTextStream output(stdout);
     QTextStream errors(stderr);
@@ -92,6 +92,8 @@ bool takeShots(QQuickWindow &window, const QDir &folder)
     QStringList pages;
     QMetaObject::invokeMethod(&window, "pageNames", qReturnArg(pages));
     for (int page = 0; page < pages.size(); ++page) {
+        if (onlyPage && page != *onlyPage)
+            continue;
         int views = 0;
         QMetaObject::invokeMethod(&window, "viewCount", qReturnArg(views), page);
         for (int view = 0; view < views; ++view) {

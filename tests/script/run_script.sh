@@ -83,6 +83,7 @@ for verb in gallery test bench build lint format clean; do
 done
 expect "--shots without a folder" fails "--shots needs a folder" gallery --shots
 expect "--shots without a folder, before --" fails "--shots needs a folder" gallery --shots --
+expect "--page without a name" fails "--page needs a name" gallery --page
 expect "nothing of this provisions" [ ! -e "$FAKE_LOG" ]
 
 # If CMake finds a Qt in /usr whatever PATH says, the rest cannot be tried.

@@ -90,6 +90,7 @@ class tst_Visual : public QObject
 private Q_SLOTS:
     void initTestCase();
     void takesPicturesWithoutComplaint();
+    void takesPicturesOfOnePage();
     void matchesReference_data();
     void matchesReference();
     void tellsThatTheModuleIsMissing_data();
@@ -144,6 +145,18 @@ void tst_Visual::takesPicturesWithoutComplaint()
     made.sort();
     QVERIFY(!made.isEmpty());
     QCOMPARE(told, made);
+}
+
+void tst_Visual::takesPicturesOfOnePage()
+{
+    QDir folder(m_output.filePath(QStringLiteral("page")));
+    folder.removeRecursively();
+    const Outcome outcome = runGallery({QStringLiteral("--shots"), folder.path(), QStringLiteral("--page"),
+        QStringLiteral("imagecolorizer")});
+    QCOMPARE(outcome.exitCode, 0);
+    const QStringList expected{QStringLiteral("ImageColorizer"), QStringLiteral("ImageColorizer-focused"),
+        QStringLiteral("ImageColorizer-try")};
+    QCOMPARE(names(folder), expected);
 }
 
 void tst_Visual::matchesReference_data()
