@@ -8,19 +8,21 @@ ListView {
     id: _list
 
     width: 320
-    height: 300
-    clip: true
+    height: 302
     spacing: 8
-    model: 12
+    model: 5
     highlightFollowsCurrentItem: false
     highlight: Kelui.Highlight {
         view: _list
         animationEnabled: true
         animationDuration: 300
+
+        Rectangle { anchors.fill: parent; color: "#ffc247" }
     }
-    delegate: Rectangle {
-        width: 320
-        height: 54
-        color: ListView.isCurrentItem ? "#ffc247" : "#2a3648"
+    delegate: Rectangle { width: 320; height: 54; color: "#2a3648"; opacity: 0.5 }
+
+    Timer {
+        interval: 1000; running: true; repeat: true
+        onTriggered: _list.currentIndex = (_list.currentIndex + 1) % _list.count
     }
 }

@@ -58,6 +58,13 @@ GalleryPage {
         text: _example.fileName
     }
 
+    // Where there is more.
+    Caption {
+        x: 824 - width
+        y: 10
+        text: (_text.atYBeginning ? "" : "↑ ") + (_text.atYEnd ? "" : "↓")
+    }
+
     Flickable {
         id: _text
 

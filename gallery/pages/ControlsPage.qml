@@ -41,6 +41,7 @@ GalleryPage {
         required property string icon
         required property string group
 
+        width: 201
         spacing: 4
 
         Row {
