@@ -135,6 +135,30 @@ Window {
             icon: "layout"
 
             LayoutPage {}
+        },
+        PageEntry {
+            name: "TopNumber"
+            icon: "number"
+
+            TopNumberPage {}
+        },
+        PageEntry {
+            name: "ScrollBar"
+            icon: "scrollbar"
+
+            ScrollBarPage {}
+        },
+        PageEntry {
+            name: "BrushArea"
+            icon: "brush"
+
+            BrushAreaPage {}
+        },
+        PageEntry {
+            name: "Helpers"
+            icon: "link"
+
+            HelpersPage {}
         }
     ]
 
