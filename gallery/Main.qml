@@ -107,11 +107,32 @@ Window {
             SearchPage {}
         },
         PageEntry {
+            name: "LargeText"
+            group: "text"
+            summary: qsTr("A long text that scrolls")
+
+            LargeTextPage {}
+        },
+        PageEntry {
             name: "Text"
             group: "text"
             summary: qsTr("Plain text in one colour and font")
 
             TextPage {}
+        },
+        PageEntry {
+            name: "TopNumber"
+            group: "text"
+            summary: qsTr("A number in large outlined digits")
+
+            TopNumberPage {}
+        },
+        PageEntry {
+            name: "BrushArea"
+            group: "pictures"
+            summary: qsTr("An area filled with any brush")
+
+            BrushAreaPage {}
         },
         PageEntry {
             name: "ClippableImage"
@@ -170,6 +191,13 @@ Window {
             LayoutPage {}
         },
         PageEntry {
+            name: "ScrollBar"
+            group: "lists"
+            summary: qsTr("How far a view is scrolled")
+
+            ScrollBarPage {}
+        },
+        PageEntry {
             name: "ScrolledGridView"
             group: "lists"
             summary: qsTr("A grid given by its elements and gaps")
@@ -210,6 +238,13 @@ Window {
             summary: qsTr("Curves for animations")
 
             VocabularyPage {}
+        },
+        PageEntry {
+            name: "Helpers"
+            group: "vocabulary"
+            summary: qsTr("Addresses of pictures made to measure")
+
+            HelpersPage {}
         },
         PageEntry {
             name: "KelGlobal"

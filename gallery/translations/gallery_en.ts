@@ -1076,6 +1076,26 @@
         <source>Code</source>
         <translation>Code</translation>
     </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Vocabulary</source>
+        <translation>Vocabulary</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Lists</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
 </context>
 <context>
     <name>MainMenuButtonPage</name>
@@ -1324,6 +1344,78 @@
     <message>
         <source>%1Layout: %2 keys</source>
         <translation>%1Layout: %2 keys</translation>
+    </message>
+</context>
+<context>
+    <name>BrushAreaPage</name>
+    <message>
+        <source>Areas filled with brushes that are made in C++</source>
+        <translation>Areas filled with brushes that are made in C++</translation>
+    </message>
+    <message>
+        <source>pattern: diagonals</source>
+        <translation>pattern: diagonals</translation>
+    </message>
+    <message>
+        <source>pattern: crosses</source>
+        <translation>pattern: crosses</translation>
+    </message>
+    <message>
+        <source>texture</source>
+        <translation>texture</translation>
+    </message>
+    <message>
+        <source>linear gradient</source>
+        <translation>linear gradient</translation>
+    </message>
+    <message>
+        <source>radial gradient</source>
+        <translation>radial gradient</translation>
+    </message>
+    <message>
+        <source>conical gradient</source>
+        <translation>conical gradient</translation>
+    </message>
+    <message>
+        <source>OK on a brush paints the wide area with it</source>
+        <translation>OK on a brush paints the wide area with it</translation>
+    </message>
+</context>
+<context>
+    <name>HelpersPage</name>
+    <message>
+        <source>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</source>
+        <translation>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</translation>
+    </message>
+    <message>
+        <source>the address</source>
+        <translation>the address</translation>
+    </message>
+    <message>
+        <source>made to measure: %1 × %2</source>
+        <translation>made to measure: %1 × %2</translation>
+    </message>
+    <message>
+        <source>without wishes, shown small</source>
+        <translation>without wishes, shown small</translation>
+    </message>
+</context>
+<context>
+    <name>ScrollBarPage</name>
+    <message>
+        <source>How far a view is scrolled: up and down scroll, OK goes to the other end</source>
+        <translation>How far a view is scrolled: up and down scroll, OK goes to the other end</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Channel %1</translation>
+    </message>
+</context>
+<context>
+    <name>TopNumberPage</name>
+    <message>
+        <source>Outlined numbers: filled, or cut out by an invalid color — OK switches</source>
+        <translation>Outlined numbers: filled, or cut out by an invalid color — OK switches</translation>
     </message>
 </context>
 </TS>

@@ -1076,6 +1076,26 @@
         <source>Code</source>
         <translation>Код</translation>
     </message>
+    <message>
+        <source>Images</source>
+        <translation>Картинки</translation>
+    </message>
+    <message>
+        <source>Vocabulary</source>
+        <translation>Словарь</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Списки</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Сетка</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Раскладка</translation>
+    </message>
 </context>
 <context>
     <name>MainMenuButtonPage</name>
@@ -1324,6 +1344,78 @@
     <message>
         <source>%1Layout: %2 keys</source>
         <translation>%1Layout, клавиш: %2</translation>
+    </message>
+</context>
+<context>
+    <name>BrushAreaPage</name>
+    <message>
+        <source>Areas filled with brushes that are made in C++</source>
+        <translation>Области, залитые кистями из C++</translation>
+    </message>
+    <message>
+        <source>pattern: diagonals</source>
+        <translation>узор: штриховка</translation>
+    </message>
+    <message>
+        <source>pattern: crosses</source>
+        <translation>узор: клетка</translation>
+    </message>
+    <message>
+        <source>texture</source>
+        <translation>текстура</translation>
+    </message>
+    <message>
+        <source>linear gradient</source>
+        <translation>линейный градиент</translation>
+    </message>
+    <message>
+        <source>radial gradient</source>
+        <translation>радиальный градиент</translation>
+    </message>
+    <message>
+        <source>conical gradient</source>
+        <translation>конический градиент</translation>
+    </message>
+    <message>
+        <source>OK on a brush paints the wide area with it</source>
+        <translation>OK на кисти заливает ею широкую область</translation>
+    </message>
+</context>
+<context>
+    <name>HelpersPage</name>
+    <message>
+        <source>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</source>
+        <translation>Helpers.imageUrl пишет в адрес, какая картинка нужна; такой её и отдают</translation>
+    </message>
+    <message>
+        <source>the address</source>
+        <translation>адрес</translation>
+    </message>
+    <message>
+        <source>made to measure: %1 × %2</source>
+        <translation>по мерке: %1 × %2</translation>
+    </message>
+    <message>
+        <source>without wishes, shown small</source>
+        <translation>без пожеланий, показана мельче</translation>
+    </message>
+</context>
+<context>
+    <name>ScrollBarPage</name>
+    <message>
+        <source>How far a view is scrolled: up and down scroll, OK goes to the other end</source>
+        <translation>Докуда прокручен список: вверх и вниз — прокрутка, OK — в другой конец</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Канал %1</translation>
+    </message>
+</context>
+<context>
+    <name>TopNumberPage</name>
+    <message>
+        <source>Outlined numbers: filled, or cut out by an invalid color — OK switches</source>
+        <translation>Числа с контуром: залитые или вырезанные цветом без значения; OK меняет</translation>
     </message>
 </context>
 </TS>
