@@ -6,6 +6,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QTextDocument>
 #include <QtGui/QTextLayout>
+#include <QtQuick/QSGNode>
 
 #include <algorithm>
 #include <bit>
@@ -356,6 +357,8 @@ QStaticText &KelLargeTextPrivate::staticText(qsizetype index)
         found->second.setText(textOf(piece).toString());
         if (piece.isPrepared)
             prepareText(found->second, piece.width, font);
+        else
+            found->second.prepare({}, m_unpreparedMetrics.font());
     }
     return found->second;
 }
@@ -486,6 +489,19 @@ void KelLargeText::paint(QPainter *painter)
     painter->setPen(d->color);
     painter->setFont(d->font);
     d->draw(*painter);
+}
+
+QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
+{
+    // No screen is near as large, and a picture would take all memory.
+    constexpr double largest = 1 << 26;
+    const double width = std::round(this->width());
+    const double height = std::round(this->height());
+    // Written so that NaN fails the test.
+    if (width >= 1 && height >= 1 && width * height <= largest)
+        return QQuickPaintedItem::updatePaintNode(oldNode, data);
+    delete oldNode;
+    return nullptr;
 }
 
 void KelLargeText::startPreparingTextFrom(int index)

@@ -74,6 +74,9 @@ Q_SIGNALS:
     void fontChanged(const QFont &font);
     void scrollMaximumChanged(int maximum);
 
+protected:
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+
 private:
     Q_INVOKABLE void startPreparingTextFrom(int index);
 
