@@ -13,6 +13,7 @@
 #include <cmath>
 #include <limits>
 
+#include "kelframenode_p.h"
 #include "kelglobal.h"
 
 using namespace Qt::StringLiterals;
@@ -493,15 +494,19 @@ void KelLargeText::paint(QPainter *painter)
 
 QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
 {
-    // No screen is near as large, and a picture would take all memory.
+    // No screen is near as large; a picture would take all memory, and painting all time.
     constexpr double largest = 1 << 26;
     const double width = std::round(this->width());
     const double height = std::round(this->height());
     // Written so that NaN fails the test.
-    if (width >= 1 && height >= 1 && width * height <= largest)
-        return QQuickPaintedItem::updatePaintNode(oldNode, data);
-    delete oldNode;
-    return nullptr;
+    if (!(width >= 1 && height >= 1 && width * height <= largest)) {
+        delete oldNode;
+        return nullptr;
+    }
+    QSGNode *node = oldNode;
+    if (KelFrameNode::update(node, *this, [this](QPainter &painter) { paint(&painter); }))
+        return node;
+    return QQuickPaintedItem::updatePaintNode(node, data);
 }
 
 void KelLargeText::startPreparingTextFrom(int index)
