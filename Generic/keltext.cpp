@@ -2,12 +2,10 @@
 #include "keltext.h"
 
 #include <QtGui/QPainter>
-#include <QtQuick/QQuickWindow>
-#include <QtQuick/QSGRenderNode>
-#include <QtQuick/QSGRendererInterface>
 
-#include <algorithm>
 #include <limits>
+
+#include "kelframenode_p.h"
 
 namespace {
 
@@ -23,85 +21,12 @@ int toPixels(double value)
     return int(value);
 }
 
-//! What the painter's window and viewport do to its coordinates: nothing in a frame, something in a layer.
-QTransform viewTransform(const QPainter &painter)
-{
-    if (!painter.viewTransformEnabled())
-        return {};
-    const QRect from = painter.window();
-    const QRect to = painter.viewport();
-    const qreal xScale = qreal(to.width()) / from.width();
-    const qreal yScale = qreal(to.height()) / from.height();
-    return {xScale, 0, 0, yScale, to.x() - from.x() * xScale, to.y() - from.y() * yScale};
-}
-
 void paintText(QPainter &painter, const kelcore::TextRenderer &renderer, const QColor &color)
 {
     painter.setPen(color);
     painter.setBrush(Qt::NoBrush);
     renderer.draw(painter);
 }
-
-/*!
-    Paints the text straight into the frame of the software renderer, where a painted item would keep a
-    picture of its own size. It draws what KelText::paint() draws, cut at the item's edges like that picture.
-*/
-class TextNode : public QSGRenderNode
-{
-public:
-    explicit TextNode(QQuickWindow *window)
-        : m_window(window)
-    {
-    }
-
-    void sync(QSize size, const kelcore::TextRenderer &renderer, const QColor &color)
-    {
-        m_area.setSize(size);
-        m_renderer = renderer;
-        m_color = color;
-        markDirty(DirtyMaterial | DirtyGeometry);
-    }
-
-    void render(const RenderState *state) override
-    {
-        auto *painter = static_cast<QPainter *>(
-            m_window->rendererInterface()->getResource(m_window, QSGRendererInterface::PainterResource));
-        if (!painter)
-            return;
-        const QRegion *clip = state->clipRegion();
-        // The node is asked to paint even where a clip leaves nothing of it.
-        if (!clip || clip->isEmpty())
-            return;
-        // The window of the painter tells the renderer the item's area; what it was before goes into the
-        // matrix.
-        const QTransform transform = matrix()->toTransform() * viewTransform(*painter);
-        painter->setClipRegion(*clip, Qt::ReplaceClip);
-        painter->setTransform(transform);
-        painter->setViewport(m_area);
-        painter->setWindow(m_area);
-        painter->setOpacity(inheritedOpacity());
-        painter->setClipRect(clipArea(transform), Qt::IntersectClip);
-        paintText(*painter, m_renderer, m_color);
-    }
-
-    //! The area, with all of the pixels that it touches: painters round a clip that stands between pixels.
-    QRect clipArea(const QTransform &transform) const
-    {
-        if (transform.type() > QTransform::TxTranslate)
-            return m_area;
-        const QRect shown = transform.mapRect(QRectF(m_area)).toAlignedRect();
-        return shown.translated(-qRound(transform.dx()), -qRound(transform.dy()));
-    }
-
-    RenderingFlags flags() const override { return BoundedRectRendering; }
-    QRectF rect() const override { return m_area; }
-
-private:
-    QQuickWindow *m_window;
-    QRect m_area;
-    kelcore::TextRenderer m_renderer;
-    QColor m_color;
-};
 
 } // namespace
 
@@ -254,26 +179,12 @@ void KelText::paint(QPainter *painter)
 
 QSGNode *KelText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
 {
-    const bool isTextNode = oldNode && oldNode->type() == QSGNode::RenderNodeType;
-    const bool isSoftware = window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
-    // A picture, once made, stays: the base class holds on to its node.
-    if (!isSoftware || !hasDefaultRenderSettings() || (oldNode && !isTextNode)) {
-        if (isTextNode) {
-            delete oldNode;
-            oldNode = nullptr;
-        }
-        return QQuickPaintedItem::updatePaintNode(oldNode, data);
-    }
-    // Sides in whole pixels, as those of a picture; larger than any screen, they change nothing.
-    constexpr qreal longest = 1 << 24;
-    const QSize size(qRound(std::clamp(width(), 0.0, longest)), qRound(std::clamp(height(), 0.0, longest)));
-    if (size.isEmpty()) {
-        delete oldNode;
-        return nullptr;
-    }
-    auto *node = oldNode ? static_cast<TextNode *>(oldNode) : new TextNode(window());
-    node->sync(size, m_renderer, m_color);
-    return node;
+    QSGNode *node = oldNode;
+    const auto paint = [renderer = m_renderer, color = m_color](
+                           QPainter &painter) { paintText(painter, renderer, color); };
+    if (KelFrameNode::update(node, *this, paint))
+        return node;
+    return QQuickPaintedItem::updatePaintNode(node, data);
 }
 
 void KelText::updateLayout()
@@ -283,12 +194,4 @@ void KelText::updateLayout()
     m_renderer.relayout();
     const QSize size = m_renderer.boundingSize(QMargins());
     setImplicitSize(size.width(), size.height());
-}
-
-//! Whether nobody asked for a picture of a certain kind.
-bool KelText::hasDefaultRenderSettings() const
-{
-    return renderTarget() == Image && performanceHints() == PerformanceHints() && !opaquePainting()
-        && !mipmap() && !antialiasing() && fillColor() == Qt::transparent && contentsScale() == 1.0
-        && contentsSize().isEmpty() && textureSize().isEmpty();
 }

@@ -100,7 +100,6 @@ protected:
 
 private:
     void updateLayout();
-    bool hasDefaultRenderSettings() const;
 
     kelcore::TextRenderer m_renderer;
     QColor m_color = Qt::black;

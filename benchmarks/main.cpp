@@ -20,6 +20,7 @@ int main(int argc, char **argv)
     measureControls(table);
     measureViews(table);
     measureIndicators(table);
+    measureLargeText(table);
     table.print();
     return 0;
 }

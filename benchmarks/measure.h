@@ -48,4 +48,5 @@ void measureColorizer(Table &table);
 void measureKeyboard(Table &table);
 void measureControls(Table &table);
 void measureIndicators(Table &table);
+void measureLargeText(Table &table);
 void measureViews(Table &table);

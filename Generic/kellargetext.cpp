@@ -1,0 +1,529 @@
+// SPDX-License-Identifier: MIT
+#include "kellargetext.h"
+#include "kellargetext_p.h"
+
+#include <QtGui/QFontInfo>
+#include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
+#include <QtQuick/QSGNode>
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <limits>
+
+#include "kelframenode_p.h"
+#include "kelglobal.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Limits = std::numeric_limits<int>;
+constexpr double unlimited = std::numeric_limits<double>::infinity();
+
+int toPixels(double value)
+{
+    // Written so that NaN fails the test.
+    if (!(value >= Limits::min() && value <= Limits::max()))
+        return Limits::max();
+    return int(value);
+}
+
+int saturated(qint64 value)
+{
+    return int(std::clamp<qint64>(value, Limits::min(), Limits::max()));
+}
+
+//! Truncated toward zero; NaN is 0.
+int saturated(double value)
+{
+    return std::isnan(value) ? 0 : int(std::clamp<double>(value, Limits::min(), Limits::max()));
+}
+
+int rounded(double height)
+{
+    return saturated(std::round(height));
+}
+
+//! The only line of a text.
+QTextLine layOut(QTextLayout &layout)
+{
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    return line;
+}
+
+//! How far the only line of a text reaches above its base line and below.
+std::pair<double, double> heightsOf(QTextLayout &layout)
+{
+    const QTextLine line = layOut(layout);
+    return {line.ascent(), line.descent()};
+}
+
+/*!
+    Whether a character always looks alike, up to kerning, and takes its font by itself. The scripts left out
+    join their letters, mark them, write them from right to left, or seldom have glyphs in the font asked for.
+*/
+bool isSimple(QChar character)
+{
+    if (character == u'\t' || character == u'\r')
+        return true;
+    if (!character.isPrint() || character.isMark() || character == QChar::LineSeparator)
+        return false;
+    switch (character.script()) {
+    case QChar::Script_Common:
+    case QChar::Script_Latin:
+    case QChar::Script_Greek:
+    case QChar::Script_Cyrillic:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isSpaced(const QFont &font)
+{
+    return !qIsNull(font.letterSpacing()) || !qIsNull(font.wordSpacing())
+        || font.capitalization() != QFont::MixedCase;
+}
+
+} // namespace
+
+void KelRunningSums::append(qint64 value)
+{
+    const size_t place = m_sums.size() + 1;
+    // The sum at a place covers as many numbers as its lowest bit says; those before it are in other sums.
+    const size_t covered = place & -place;
+    for (size_t i = 1; i < covered; i *= 2)
+        value += m_sums[place - i - 1];
+    m_sums.push_back(value);
+}
+
+void KelRunningSums::add(qsizetype index, qint64 difference)
+{
+    for (size_t place = size_t(index) + 1; place <= m_sums.size(); place += place & -place)
+        m_sums[place - 1] += difference;
+}
+
+qint64 KelRunningSums::sum(qsizetype count) const
+{
+    qint64 result = 0;
+    for (size_t place = size_t(count); place > 0; place &= place - 1)
+        result += m_sums[place - 1];
+    return result;
+}
+
+qsizetype KelRunningSums::countWithin(qint64 limit) const
+{
+    size_t count = 0;
+    for (size_t step = std::bit_floor(m_sums.size()); step > 0; step /= 2) {
+        if (count + step <= m_sums.size() && m_sums[count + step - 1] <= limit) {
+            count += step;
+            limit -= m_sums[count - 1];
+        }
+    }
+    return qsizetype(count);
+}
+
+KelLineMetrics::KelLineMetrics(const QFont &font)
+    : m_font(font)
+{
+    QTextLayout empty({}, font);
+    m_emptyLine = heightsOf(empty);
+    m_lineHeight = empty.boundingRect().height();
+    // An upper bound for what moves letters apart, on average.
+    m_kerning = QFontInfo(font).pixelSize() / 16.0;
+    for (const QChar letter : u"xЖλ"_s) {
+        if (isUsual(letter))
+            m_neighbors += letter;
+    }
+}
+
+bool KelLineMetrics::fits(QStringView text, double width)
+{
+    // Far below the widths at which Qt's fixed-point numbers end.
+    constexpr double longest = 1e6;
+    return advance(text) + double(text.size()) * m_kerning <= (width < 0 ? longest : std::min(width, longest));
+}
+
+//! The sum of the advances; unlimited where it does not tell enough.
+double KelLineMetrics::advance(QStringView text)
+{
+    // The symbols behind are seldom in a font of letters.
+    constexpr size_t known = 0x2200;
+    constexpr float unknown = -1;
+    m_advances.resize(known, unknown);
+    double sum = 0;
+    for (const QChar character : text) {
+        if (character.unicode() >= known)
+            return unlimited;
+        float &advance = m_advances[character.unicode()];
+        if (advance == unknown)
+            advance = measured(character);
+        sum += advance;
+    }
+    return sum;
+}
+
+//! The advance of a character that leaves a line as high as an empty one; unlimited for others.
+float KelLineMetrics::measured(QChar character) const
+{
+    if (!isSimple(character) || isSpaced(m_font) || !isUsual(character))
+        return float(unlimited);
+    // Signs take the font of the script before them.
+    for (const QChar neighbor : m_neighbors) {
+        if (!isUsual(QString(neighbor) + character))
+            return float(unlimited);
+    }
+    QTextLayout layout(character, m_font);
+    return float(layOut(layout).naturalTextWidth());
+}
+
+bool KelLineMetrics::isUsual(const QString &text) const
+{
+    QTextLayout layout(text, m_font);
+    return heightsOf(layout) == m_emptyLine;
+}
+
+KelLargeTextPrivate::KelLargeTextPrivate(KelLargeText *item)
+    : q(item)
+    , m_unpreparedMetrics({})
+    , m_preparedMetrics({})
+{
+}
+
+KelLargeTextPrivate *KelLargeTextPrivate::get(KelLargeText *item)
+{
+    return item->d;
+}
+
+void KelLargeTextPrivate::invalidate()
+{
+    offset = 0;
+    scrollStep = 0.3;
+    scrollMaximum = 0;
+    allPrepared = false;
+    viewportFilled = false;
+    pieces.clear();
+    staticTexts.clear();
+    m_rounded.clear();
+    m_truncated = 0;
+    text.clear();
+}
+
+//! Deliberately appends: what a changed line break makes of the text comes after what is there.
+void KelLargeTextPrivate::resetStaticTexts()
+{
+    if (m_unpreparedMetrics.font() != QFont())
+        m_unpreparedMetrics = KelLineMetrics(QFont());
+    const QString separator = lineBreak();
+    const qsizetype newCount = count() + text.count(separator) + 1;
+    pieces.reserve(size_t(newCount));
+    m_rounded.reserve(newCount);
+    qsizetype start = 0;
+    for (qsizetype end = text.indexOf(separator); end >= 0; end = text.indexOf(separator, start)) {
+        append(start, end);
+        start = end + separator.size();
+    }
+    append(start, text.size());
+    q->startPreparingTextFrom(0);
+}
+
+void KelLargeTextPrivate::append(qsizetype start, qsizetype end)
+{
+    Piece piece{start, end - start};
+    piece.height = unpreparedHeight(textOf(piece));
+    pieces.push_back(piece);
+    m_rounded.append(rounded(piece.height));
+    m_truncated += saturated(piece.height);
+}
+
+QStringView KelLargeTextPrivate::textOf(const Piece &piece) const
+{
+    return QStringView(text).sliced(piece.start, piece.size);
+}
+
+double KelLargeTextPrivate::unpreparedHeight(QStringView line)
+{
+    const bool hasMarkup = line.contains(u'<') || line.contains(u'&');
+    if (m_unpreparedMetrics.fits(line, -1) && !(hasMarkup && Qt::mightBeRichText(line.toString())))
+        return m_unpreparedMetrics.lineHeight();
+    return QStaticText(line.toString()).size().height();
+}
+
+double KelLargeTextPrivate::preparedHeight(QStringView line, int width)
+{
+    if (m_preparedMetrics.font() != font)
+        m_preparedMetrics = KelLineMetrics(font);
+    if (m_preparedMetrics.fits(line, width))
+        return m_preparedMetrics.lineHeight();
+    QStaticText piece(line.toString());
+    prepareText(piece, width, font);
+    return piece.size().height();
+}
+
+void KelLargeTextPrivate::prepareText(QStaticText &piece, int width, const QFont &font) const
+{
+    QTextOption option(Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WordWrap);
+    piece.setTextOption(option);
+    piece.setTextFormat(Qt::PlainText);
+    // Before it is laid out, so that this happens once.
+    piece.setTextWidth(width);
+    piece.prepare({}, font);
+}
+
+void KelLargeTextPrivate::prepare(qsizetype index)
+{
+    Piece &piece = pieces[size_t(index)];
+    piece.width = toPixels(q->width());
+    piece.isPrepared = true;
+    staticTexts.erase(index);
+    setHeight(index, preparedHeight(textOf(piece), piece.width));
+}
+
+void KelLargeTextPrivate::setHeight(qsizetype index, double height)
+{
+    double &current = pieces[size_t(index)].height;
+    if (current == height)
+        return;
+    m_rounded.add(index, qint64(rounded(height)) - rounded(current));
+    m_truncated += qint64(saturated(height)) - saturated(current);
+    current = height;
+}
+
+bool KelLargeTextPrivate::fillsViewport(qsizetype index) const
+{
+    return m_rounded.sum(std::min(index + 1, count())) >= qint64(offset) + viewportHeight();
+}
+
+int KelLargeTextPrivate::contentHeight() const
+{
+    return saturated(m_truncated);
+}
+
+int KelLargeTextPrivate::viewportHeight() const
+{
+    return toPixels(q->height());
+}
+
+void KelLargeTextPrivate::publishScrollMaximum()
+{
+    q->setScrollMaximum(saturated(qint64(contentHeight()) - viewportHeight()));
+}
+
+QString KelLargeTextPrivate::lineBreak() const
+{
+    return separator.isEmpty() ? u"\n"_s : separator;
+}
+
+void KelLargeTextPrivate::setLineBreak(const QString &lineBreak)
+{
+    if (separator == lineBreak)
+        return;
+    separator = lineBreak;
+    if (!text.isEmpty())
+        resetStaticTexts();
+}
+
+void KelLargeTextPrivate::draw(QPainter &painter)
+{
+    const int bottom = viewportHeight();
+    const qsizetype first = m_rounded.countWithin(offset);
+    qint64 y = m_rounded.sum(first) - offset;
+    qsizetype index = first;
+    for (; index < count() && y < bottom; ++index) {
+        const Piece &piece = pieces[size_t(index)];
+        const int height = rounded(piece.height);
+        if (piece.size > 0) {
+            QStaticText &drawn = staticText(index);
+            painter.drawStaticText(QPointF(0, double(y)), drawn);
+            // It has taken the painter's font.
+            setHeight(index, drawn.size().height());
+        }
+        y += height;
+    }
+    const qsizetype kept = 3 * (index - first);
+    forgetAllBut(first - kept, index + kept);
+}
+
+QStaticText &KelLargeTextPrivate::staticText(qsizetype index)
+{
+    const auto [found, isNew] = staticTexts.try_emplace(index);
+    if (isNew) {
+        const Piece &piece = pieces[size_t(index)];
+        found->second.setText(textOf(piece).toString());
+        if (piece.isPrepared)
+            prepareText(found->second, piece.width, font);
+        else
+            found->second.prepare({}, m_unpreparedMetrics.font());
+    }
+    return found->second;
+}
+
+void KelLargeTextPrivate::forgetAllBut(qsizetype first, qsizetype end)
+{
+    staticTexts.erase(staticTexts.begin(), staticTexts.lower_bound(first));
+    staticTexts.erase(staticTexts.lower_bound(end), staticTexts.end());
+}
+
+KelLargeText::KelLargeText(QQuickItem *parent)
+    : QQuickPaintedItem(parent)
+    , d(new KelLargeTextPrivate(this))
+{
+}
+
+KelLargeText::~KelLargeText()
+{
+    delete d;
+}
+
+QString KelLargeText::text() const
+{
+    return d->text;
+}
+
+void KelLargeText::setText(const QString &text)
+{
+    if (d->text == text)
+        return;
+    // Deliberately without signals for what this resets.
+    d->invalidate();
+    d->text = text;
+    d->resetStaticTexts();
+    update();
+    Q_EMIT textChanged(d->text);
+}
+
+QColor KelLargeText::color() const
+{
+    return d->color;
+}
+
+void KelLargeText::setColor(const QColor &color)
+{
+    if (d->color == color)
+        return;
+    // Deliberately no repaint: the colour is seen at the next one from another cause.
+    d->color = color;
+    Q_EMIT colorChanged(color);
+}
+
+QFont KelLargeText::font() const
+{
+    return d->font;
+}
+
+void KelLargeText::setFont(const QFont &font)
+{
+    if (d->font == font)
+        return;
+    // Deliberately nothing is prepared again.
+    d->font = font;
+    update();
+    Q_EMIT fontChanged(font);
+}
+
+int KelLargeText::offset() const
+{
+    return d->offset;
+}
+
+void KelLargeText::setOffset(int offset)
+{
+    const double height = d->viewportHeight();
+    const int limit = saturated(d->contentHeight() - height + height * d->scrollStep);
+    const int newOffset = std::clamp(offset, 0, std::max(limit, 0));
+    if (d->offset == newOffset)
+        return;
+    d->offset = newOffset;
+    update();
+    Q_EMIT offsetChanged(newOffset);
+}
+
+double KelLargeText::scrollStep() const
+{
+    return d->scrollStep;
+}
+
+void KelLargeText::setScrollStep(double step)
+{
+    if (qFuzzyCompare(d->scrollStep, step))
+        return;
+    // Deliberately the offset keeps to the limit of the step before.
+    d->scrollStep = step;
+    Q_EMIT scrollStepChanged(step);
+}
+
+int KelLargeText::scrollMaximum() const
+{
+    return d->scrollMaximum;
+}
+
+void KelLargeText::setScrollMaximum(int maximum)
+{
+    if (d->scrollMaximum == maximum)
+        return;
+    d->scrollMaximum = maximum;
+    Q_EMIT scrollMaximumChanged(maximum);
+}
+
+void KelLargeText::setScrollMaximum(double maximum)
+{
+    setScrollMaximum(saturated(maximum));
+}
+
+void KelLargeText::scrollToDirection(int direction)
+{
+    const qint64 step = saturated(d->viewportHeight() * d->scrollStep);
+    if (direction == KelGlobal::ScrollDown)
+        setOffset(saturated(d->offset + step));
+    else if (direction == KelGlobal::ScrollUp)
+        setOffset(saturated(d->offset - step));
+}
+
+void KelLargeText::paint(QPainter *painter)
+{
+    painter->setPen(d->color);
+    painter->setFont(d->font);
+    d->draw(*painter);
+}
+
+QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
+{
+    // No screen is near as large; a picture would take all memory, and painting all time.
+    constexpr double largest = 1 << 26;
+    const double width = std::round(this->width());
+    const double height = std::round(this->height());
+    // Written so that NaN fails the test.
+    if (!(width >= 1 && height >= 1 && width * height <= largest)) {
+        delete oldNode;
+        return nullptr;
+    }
+    QSGNode *node = oldNode;
+    if (KelFrameNode::update(node, *this, [this](QPainter &painter) { paint(&painter); }))
+        return node;
+    return QQuickPaintedItem::updatePaintNode(node, data);
+}
+
+void KelLargeText::startPreparingTextFrom(int index)
+{
+    if (index < 0 || index >= d->count())
+        return;
+    d->prepare(index);
+    update();
+    if (index + 1 < d->count()) {
+        QMetaObject::invokeMethod(this, "startPreparingTextFrom", Qt::QueuedConnection, index + 1);
+    } else {
+        d->allPrepared = true;
+        d->publishScrollMaximum();
+    }
+    if (d->viewportFilled)
+        return;
+    d->viewportFilled = d->fillsViewport(index);
+    if (d->viewportFilled || d->allPrepared)
+        d->publishScrollMaximum();
+}
