@@ -116,7 +116,8 @@ void tst_controls::everyComponentHasAPage_data()
     QTest::addColumn<QString>("name");
     QStringList names = componentNames();
     QVERIFY(names.size() > 20);
-    names += {u"ImageColorizer"_s, u"KelGlobal"_s, u"Text"_s};
+    names += {u"BrushArea"_s, u"Helpers"_s, u"ImageColorizer"_s, u"KelGlobal"_s, u"LargeText"_s, u"ScrollBar"_s,
+        u"Text"_s, u"TopNumber"_s};
     for (const QString &name : std::as_const(names))
         QTest::newRow(qPrintable(name)) << name;
 }
