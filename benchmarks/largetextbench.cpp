@@ -9,6 +9,7 @@
 #include <cmath>
 #include <limits>
 
+#include "kelframenode_p.h"
 #include "measure.h"
 #include "scene.h"
 
@@ -158,7 +159,7 @@ public:
     }
 };
 
-//! The work that cannot be avoided: the lines in view, all prepared, in a picture of the same size.
+//! The work that cannot be avoided: the lines in view, all prepared, straight into the frame.
 class VisibleLines : public QQuickPaintedItem
 {
 public:
@@ -188,6 +189,7 @@ public:
 
     void paint(QPainter *painter) override
     {
+        painter->setPen(Qt::black);
         painter->setFont(m_font);
         double y = -m_offset;
         for (const QStaticText &line : std::as_const(m_lines)) {
@@ -198,6 +200,13 @@ public:
                 painter->drawStaticText(QPointF(0, y), line);
             y += height;
         }
+    }
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *) override
+    {
+        KelFrameNode::update(oldNode, *this, [this](QPainter &painter) { paint(&painter); });
+        return oldNode;
     }
 
 private:
