@@ -171,15 +171,17 @@ double KelLineMetrics::advance(QStringView text)
 //! The advance of a character that leaves a line as high as an empty one; unlimited for others.
 float KelLineMetrics::measured(QChar character) const
 {
-    if (!isSimple(character) || isSpaced(m_font) || !isUsual(character))
+    const auto isAlike = [character](QChar letter) { return letter.script() == character.script(); };
+    const bool isSign = character.script() == QChar::Script_Common;
+    if (!isSimple(character) || isSpaced(m_font)
+        || (!isSign && std::none_of(m_neighbors.begin(), m_neighbors.end(), isAlike)))
         return float(unlimited);
     // Signs take the font of the script before them.
-    for (const QChar neighbor : m_neighbors) {
-        if (!isUsual(QString(neighbor) + character))
-            return float(unlimited);
-    }
-    QTextLayout layout(character, m_font);
-    return float(layOut(layout).naturalTextWidth());
+    QString text = character;
+    for (const QChar neighbor : m_neighbors)
+        text.append(neighbor).append(character);
+    QTextLayout layout(text, m_font);
+    return heightsOf(layout) == m_emptyLine ? float(layout.lineAt(0).cursorToX(1)) : float(unlimited);
 }
 
 bool KelLineMetrics::isUsual(const QString &text) const
