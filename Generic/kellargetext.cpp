@@ -222,9 +222,6 @@ void KelLargeTextPrivate::resetStaticTexts()
     if (m_unpreparedMetrics.font() != QFont())
         m_unpreparedMetrics = KelLineMetrics(QFont());
     const QString separator = lineBreak();
-    const qsizetype newCount = count() + text.count(separator) + 1;
-    pieces.reserve(size_t(newCount));
-    m_rounded.reserve(newCount);
     qsizetype start = 0;
     for (qsizetype end = text.indexOf(separator); end >= 0; end = text.indexOf(separator, start)) {
         append(start, end);
@@ -263,19 +260,19 @@ double KelLargeTextPrivate::preparedHeight(QStringView line, int width)
     if (m_preparedMetrics.fits(line, width))
         return m_preparedMetrics.lineHeight();
     QStaticText piece(line.toString());
-    prepareText(piece, width, font);
+    prepareText(piece, width);
+    piece.prepare({}, font);
     return piece.size().height();
 }
 
-void KelLargeTextPrivate::prepareText(QStaticText &piece, int width, const QFont &font) const
+//! Without a font: the one that asks for its size or draws it gives it one, and then it is laid out once.
+void KelLargeTextPrivate::prepareText(QStaticText &piece, int width)
 {
     QTextOption option(Qt::AlignLeft);
     option.setWrapMode(QTextOption::WordWrap);
     piece.setTextOption(option);
     piece.setTextFormat(Qt::PlainText);
-    // Before it is laid out, so that this happens once.
     piece.setTextWidth(width);
-    piece.prepare({}, font);
 }
 
 void KelLargeTextPrivate::prepare(qsizetype index)
@@ -359,9 +356,7 @@ QStaticText &KelLargeTextPrivate::staticText(qsizetype index)
         const Piece &piece = pieces[size_t(index)];
         found->second.setText(textOf(piece).toString());
         if (piece.isPrepared)
-            prepareText(found->second, piece.width, font);
-        else
-            found->second.prepare({}, m_unpreparedMetrics.font());
+            prepareText(found->second, piece.width);
     }
     return found->second;
 }

@@ -17,7 +17,6 @@ class KelRunningSums
 {
 public:
     void clear() { m_sums.clear(); }
-    void reserve(qsizetype count) { m_sums.reserve(size_t(count)); }
     void append(qint64 value);
     void add(qsizetype index, qint64 difference);
     //! The sum of the first numbers.
@@ -77,7 +76,7 @@ public:
 
     void invalidate();
     void resetStaticTexts();
-    void prepareText(QStaticText &piece, int width, const QFont &font) const;
+    static void prepareText(QStaticText &piece, int width);
     int contentHeight() const;
     int viewportHeight() const;
     QString lineBreak() const;
