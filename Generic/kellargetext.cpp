@@ -176,9 +176,9 @@ float KelLineMetrics::measured(QChar character) const
     if (!isSimple(character) || isSpaced(m_font)
         || (!isSign && std::none_of(m_neighbors.begin(), m_neighbors.end(), isAlike)))
         return float(unlimited);
-    // Signs take the font of the script before them.
     QString text = character;
-    for (const QChar neighbor : m_neighbors)
+    // Signs take the font of the script before them.
+    for (const QChar neighbor : isSign ? m_neighbors : QString())
         text.append(neighbor).append(character);
     QTextLayout layout(text, m_font);
     return heightsOf(layout) == m_emptyLine ? float(layout.lineAt(0).cursorToX(1)) : float(unlimited);
