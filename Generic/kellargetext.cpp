@@ -146,7 +146,8 @@ bool KelLineMetrics::fits(QStringView text, double width)
 {
     // Far below the widths at which Qt's fixed-point numbers end.
     constexpr double longest = 1e6;
-    return advance(text) + double(text.size()) * m_kerning <= (width < 0 ? longest : std::min(width, longest));
+    return advance(text) + double(text.size()) * m_kerning
+        <= (width < 0 ? longest : std::min(width, longest));
 }
 
 //! The sum of the advances; unlimited where it does not tell enough.

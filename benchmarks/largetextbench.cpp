@@ -62,7 +62,8 @@ QString sizeOf(qsizetype bytes)
     return bytes < megabyte ? u"%1 kB"_s.arg(bytes / kilobyte) : u"%1 MB"_s.arg(bytes / megabyte);
 }
 
-//! A pass of the event loop prepares a line. What others have posted counts little: it comes with every hundredth.
+//! A pass of the event loop prepares a line. What others have posted counts little: it comes with every
+//! hundredth.
 void pass(QQuickItem *item, qsizetype index)
 {
     if (index % 100 == 0)
@@ -343,8 +344,8 @@ double shortestToShow(const QByteArray &source, const char *content, const char 
     return shortest;
 }
 
-void addRatio(Table &table, const QString &name, double ours, double theirs, double goal,
-    const QString &unit = u"us"_s)
+void addRatio(
+    Table &table, const QString &name, double ours, double theirs, double goal, const QString &unit = u"us"_s)
 {
     table.add({name, unit, ours, theirs, ours / theirs, goal});
 }
