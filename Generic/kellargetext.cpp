@@ -3,7 +3,9 @@
 #include "kellargetext_p.h"
 
 #include <QtGui/QFontInfo>
+#include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
+#include <QtGui/QRawFont>
 #include <QtGui/QTextDocument>
 #include <QtGui/QTextLayout>
 #include <QtQuick/QSGNode>
@@ -84,6 +86,24 @@ bool isSimple(QChar character)
     }
 }
 
+// What most lines consist of; without "<" and "&", with which markup begins.
+constexpr QStringView signs = u" !\"#$%'()*+,-./0123456789:;=>?@[\\]^_`{|}~";
+constexpr QStringView latinLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+constexpr QStringView cyrillicLetters = u"АБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯабвгдежзийклмнопрстуфхцчшщъыьэюя";
+
+//! Whether a text consists of these. Written so that compilers take many characters at a time.
+bool isPlain(QStringView text)
+{
+    quint16 others = 0;
+    for (const QChar character : text) {
+        const quint16 code = character.unicode();
+        const bool isAscii = quint16(code - u' ') <= u'~' - u' ';
+        const bool isCyrillic = quint16(code - u'А') <= u'я' - u'А';
+        others |= quint16(!(isAscii | isCyrillic) | (code == u'<') | (code == u'&'));
+    }
+    return others == 0;
+}
+
 bool isSpaced(const QFont &font)
 {
     return !qIsNull(font.letterSpacing()) || !qIsNull(font.wordSpacing())
@@ -142,6 +162,36 @@ KelLineMetrics::KelLineMetrics(const QFont &font)
     }
 }
 
+/*!
+    Whether the font itself has all that a plain text consists of, also where signs take the font of the
+   script before them: then any plain text is as high as an empty line.
+*/
+bool KelLineMetrics::hasPlainText() const
+{
+    constexpr int largestSize = 500;
+    if (isSpaced(m_font) || QFontInfo(m_font).pixelSize() > largestSize)
+        return false;
+    QString text;
+    for (const QStringView letters : {QStringView(), latinLetters, cyrillicLetters})
+        text += letters.toString() + signs.toString();
+    QTextLayout layout(text, m_font);
+    if (heightsOf(layout) != m_emptyLine)
+        return false;
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    return std::all_of(runs.begin(), runs.end(), [&runs](const QGlyphRun &run) {
+        return run.rawFont() == runs.constFirst().rawFont() && !run.glyphIndexes().contains(0);
+    });
+}
+
+bool KelLineMetrics::isPlainLine(QStringView text)
+{
+    // Far from the widths at which Qt's fixed-point numbers end.
+    constexpr qsizetype longest = 1000;
+    if (!m_hasPlainText)
+        m_hasPlainText = hasPlainText();
+    return *m_hasPlainText && text.size() <= longest && isPlain(text);
+}
+
 bool KelLineMetrics::fits(QStringView text, double width)
 {
     // Far below the widths at which Qt's fixed-point numbers end.
@@ -157,13 +207,18 @@ double KelLineMetrics::advance(QStringView text)
     constexpr size_t known = 0x2200;
     constexpr float unknown = -1;
     m_advances.resize(known, unknown);
+    // A few at a time, for no line to take long.
+    int unmeasured = 4;
     double sum = 0;
     for (const QChar character : text) {
         if (character.unicode() >= known)
             return unlimited;
         float &advance = m_advances[character.unicode()];
-        if (advance == unknown)
+        if (advance == unknown) {
+            if (unmeasured-- == 0)
+                return unlimited;
             advance = measured(character);
+        }
         sum += advance;
     }
     return sum;
@@ -248,6 +303,8 @@ QStringView KelLargeTextPrivate::textOf(const Piece &piece) const
 
 double KelLargeTextPrivate::unpreparedHeight(QStringView line)
 {
+    if (m_unpreparedMetrics.isPlainLine(line))
+        return m_unpreparedMetrics.lineHeight();
     const bool hasMarkup = line.contains(u'<') || line.contains(u'&');
     if (m_unpreparedMetrics.fits(line, -1) && !(hasMarkup && Qt::mightBeRichText(line.toString())))
         return m_unpreparedMetrics.lineHeight();

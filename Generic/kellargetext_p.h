@@ -6,6 +6,7 @@
 #include <QtGui/QStaticText>
 
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -41,8 +42,11 @@ public:
     double lineHeight() const { return m_lineHeight; }
     //! Whether a text is known to stand on one line of the usual height. A negative width is no limit.
     bool fits(QStringView text, double width);
+    //! The same without a limit, for the commonest of letters and signs: found out much faster.
+    bool isPlainLine(QStringView text);
 
 private:
+    bool hasPlainText() const;
     double advance(QStringView text);
     float measured(QChar character) const;
     bool isUsual(const QString &text) const;
@@ -52,6 +56,8 @@ private:
     std::pair<double, double> m_emptyLine;
     double m_lineHeight = 0;
     double m_kerning = 0;
+    //! Found out when first asked for.
+    std::optional<bool> m_hasPlainText;
     //! Letters of different scripts, as high as an empty line.
     QString m_neighbors;
     std::vector<float> m_advances;
