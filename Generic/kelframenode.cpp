@@ -43,11 +43,12 @@ bool KelFrameNode::update(QSGNode *&node, const QQuickPaintedItem &item, const P
     const bool isFrameNode = node && node->type() == QSGNode::RenderNodeType;
     const auto api = item.window()->rendererInterface()->graphicsApi();
     // A picture, once made, stays: the item holds on to its node.
-    const bool isPossible = api == QSGRendererInterface::Software && hasDefaultRenderSettings(item)
-        && (!node || isFrameNode);
+    const bool isPossible =
+        api == QSGRendererInterface::Software && hasDefaultRenderSettings(item) && (!node || isFrameNode);
     // Sides in whole pixels, as those of a picture; larger than any screen, they change nothing.
     constexpr qreal longest = 1 << 24;
-    const QSize size(qRound(std::clamp(item.width(), 0.0, longest)), qRound(std::clamp(item.height(), 0.0, longest)));
+    const QSize size(
+        qRound(std::clamp(item.width(), 0.0, longest)), qRound(std::clamp(item.height(), 0.0, longest)));
     if (isFrameNode && (!isPossible || size.isEmpty())) {
         delete node;
         node = nullptr;

@@ -3,7 +3,9 @@
 #include "kellargetext_p.h"
 
 #include <QtGui/QFontInfo>
+#include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
+#include <QtGui/QRawFont>
 #include <QtGui/QTextDocument>
 #include <QtGui/QTextLayout>
 #include <QtQuick/QSGNode>
@@ -84,6 +86,24 @@ bool isSimple(QChar character)
     }
 }
 
+// What most lines consist of; without "<" and "&", with which markup begins.
+constexpr QStringView signs = u" !\"#$%'()*+,-./0123456789:;=>?@[\\]^_`{|}~";
+constexpr QStringView latinLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+constexpr QStringView cyrillicLetters = u"АБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯабвгдежзийклмнопрстуфхцчшщъыьэюя";
+
+//! Whether a text consists of these. Written so that compilers take many characters at a time.
+bool isPlain(QStringView text)
+{
+    quint16 others = 0;
+    for (const QChar character : text) {
+        const quint16 code = character.unicode();
+        const bool isAscii = quint16(code - u' ') <= u'~' - u' ';
+        const bool isCyrillic = quint16(code - u'А') <= u'я' - u'А';
+        others |= quint16(!(isAscii | isCyrillic) | (code == u'<') | (code == u'&'));
+    }
+    return others == 0;
+}
+
 bool isSpaced(const QFont &font)
 {
     return !qIsNull(font.letterSpacing()) || !qIsNull(font.wordSpacing())
@@ -142,11 +162,42 @@ KelLineMetrics::KelLineMetrics(const QFont &font)
     }
 }
 
+/*!
+    Whether the font itself has all that a plain text consists of, also where signs take the font of the
+   script before them: then any plain text is as high as an empty line.
+*/
+bool KelLineMetrics::hasPlainText() const
+{
+    constexpr int largestSize = 500;
+    if (isSpaced(m_font) || QFontInfo(m_font).pixelSize() > largestSize)
+        return false;
+    QString text;
+    for (const QStringView letters : {QStringView(), latinLetters, cyrillicLetters})
+        text += letters.toString() + signs.toString();
+    QTextLayout layout(text, m_font);
+    if (heightsOf(layout) != m_emptyLine)
+        return false;
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    return std::all_of(runs.begin(), runs.end(), [&runs](const QGlyphRun &run) {
+        return run.rawFont() == runs.constFirst().rawFont() && !run.glyphIndexes().contains(0);
+    });
+}
+
+bool KelLineMetrics::isPlainLine(QStringView text)
+{
+    // Far from the widths at which Qt's fixed-point numbers end.
+    constexpr qsizetype longest = 1000;
+    if (!m_hasPlainText)
+        m_hasPlainText = hasPlainText();
+    return *m_hasPlainText && text.size() <= longest && isPlain(text);
+}
+
 bool KelLineMetrics::fits(QStringView text, double width)
 {
     // Far below the widths at which Qt's fixed-point numbers end.
     constexpr double longest = 1e6;
-    return advance(text) + double(text.size()) * m_kerning <= (width < 0 ? longest : std::min(width, longest));
+    return advance(text) + double(text.size()) * m_kerning
+        <= (width < 0 ? longest : std::min(width, longest));
 }
 
 //! The sum of the advances; unlimited where it does not tell enough.
@@ -156,13 +207,18 @@ double KelLineMetrics::advance(QStringView text)
     constexpr size_t known = 0x2200;
     constexpr float unknown = -1;
     m_advances.resize(known, unknown);
+    // A few at a time, for no line to take long.
+    int unmeasured = 4;
     double sum = 0;
     for (const QChar character : text) {
         if (character.unicode() >= known)
             return unlimited;
         float &advance = m_advances[character.unicode()];
-        if (advance == unknown)
+        if (advance == unknown) {
+            if (unmeasured-- == 0)
+                return unlimited;
             advance = measured(character);
+        }
         sum += advance;
     }
     return sum;
@@ -171,15 +227,17 @@ double KelLineMetrics::advance(QStringView text)
 //! The advance of a character that leaves a line as high as an empty one; unlimited for others.
 float KelLineMetrics::measured(QChar character) const
 {
-    if (!isSimple(character) || isSpaced(m_font) || !isUsual(character))
+    const auto isAlike = [character](QChar letter) { return letter.script() == character.script(); };
+    const bool isSign = character.script() == QChar::Script_Common;
+    if (!isSimple(character) || isSpaced(m_font)
+        || (!isSign && std::none_of(m_neighbors.begin(), m_neighbors.end(), isAlike)))
         return float(unlimited);
+    QString text = character;
     // Signs take the font of the script before them.
-    for (const QChar neighbor : m_neighbors) {
-        if (!isUsual(QString(neighbor) + character))
-            return float(unlimited);
-    }
-    QTextLayout layout(character, m_font);
-    return float(layOut(layout).naturalTextWidth());
+    for (const QChar neighbor : isSign ? m_neighbors : QString())
+        text.append(neighbor).append(character);
+    QTextLayout layout(text, m_font);
+    return heightsOf(layout) == m_emptyLine ? float(layout.lineAt(0).cursorToX(1)) : float(unlimited);
 }
 
 bool KelLineMetrics::isUsual(const QString &text) const
@@ -220,9 +278,6 @@ void KelLargeTextPrivate::resetStaticTexts()
     if (m_unpreparedMetrics.font() != QFont())
         m_unpreparedMetrics = KelLineMetrics(QFont());
     const QString separator = lineBreak();
-    const qsizetype newCount = count() + text.count(separator) + 1;
-    pieces.reserve(size_t(newCount));
-    m_rounded.reserve(newCount);
     qsizetype start = 0;
     for (qsizetype end = text.indexOf(separator); end >= 0; end = text.indexOf(separator, start)) {
         append(start, end);
@@ -248,6 +303,8 @@ QStringView KelLargeTextPrivate::textOf(const Piece &piece) const
 
 double KelLargeTextPrivate::unpreparedHeight(QStringView line)
 {
+    if (m_unpreparedMetrics.isPlainLine(line))
+        return m_unpreparedMetrics.lineHeight();
     const bool hasMarkup = line.contains(u'<') || line.contains(u'&');
     if (m_unpreparedMetrics.fits(line, -1) && !(hasMarkup && Qt::mightBeRichText(line.toString())))
         return m_unpreparedMetrics.lineHeight();
@@ -261,19 +318,19 @@ double KelLargeTextPrivate::preparedHeight(QStringView line, int width)
     if (m_preparedMetrics.fits(line, width))
         return m_preparedMetrics.lineHeight();
     QStaticText piece(line.toString());
-    prepareText(piece, width, font);
+    prepareText(piece, width);
+    piece.prepare({}, font);
     return piece.size().height();
 }
 
-void KelLargeTextPrivate::prepareText(QStaticText &piece, int width, const QFont &font) const
+//! Without a font: the one that asks for its size or draws it gives it one, and then it is laid out once.
+void KelLargeTextPrivate::prepareText(QStaticText &piece, int width)
 {
     QTextOption option(Qt::AlignLeft);
     option.setWrapMode(QTextOption::WordWrap);
     piece.setTextOption(option);
     piece.setTextFormat(Qt::PlainText);
-    // Before it is laid out, so that this happens once.
     piece.setTextWidth(width);
-    piece.prepare({}, font);
 }
 
 void KelLargeTextPrivate::prepare(qsizetype index)
@@ -357,9 +414,7 @@ QStaticText &KelLargeTextPrivate::staticText(qsizetype index)
         const Piece &piece = pieces[size_t(index)];
         found->second.setText(textOf(piece).toString());
         if (piece.isPrepared)
-            prepareText(found->second, piece.width, font);
-        else
-            found->second.prepare({}, m_unpreparedMetrics.font());
+            prepareText(found->second, piece.width);
     }
     return found->second;
 }

@@ -6,6 +6,7 @@
 #include <QtGui/QStaticText>
 
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -17,7 +18,6 @@ class KelRunningSums
 {
 public:
     void clear() { m_sums.clear(); }
-    void reserve(qsizetype count) { m_sums.reserve(size_t(count)); }
     void append(qint64 value);
     void add(qsizetype index, qint64 difference);
     //! The sum of the first numbers.
@@ -42,8 +42,11 @@ public:
     double lineHeight() const { return m_lineHeight; }
     //! Whether a text is known to stand on one line of the usual height. A negative width is no limit.
     bool fits(QStringView text, double width);
+    //! The same without a limit, for the commonest of letters and signs: found out much faster.
+    bool isPlainLine(QStringView text);
 
 private:
+    bool hasPlainText() const;
     double advance(QStringView text);
     float measured(QChar character) const;
     bool isUsual(const QString &text) const;
@@ -53,6 +56,8 @@ private:
     std::pair<double, double> m_emptyLine;
     double m_lineHeight = 0;
     double m_kerning = 0;
+    //! Found out when first asked for.
+    std::optional<bool> m_hasPlainText;
     //! Letters of different scripts, as high as an empty line.
     QString m_neighbors;
     std::vector<float> m_advances;
@@ -77,7 +82,7 @@ public:
 
     void invalidate();
     void resetStaticTexts();
-    void prepareText(QStaticText &piece, int width, const QFont &font) const;
+    static void prepareText(QStaticText &piece, int width);
     int contentHeight() const;
     int viewportHeight() const;
     QString lineBreak() const;

@@ -53,7 +53,7 @@ void KelTopNumberPrivate::recalculate()
     q->update();
 }
 
-void KelTopNumberPrivate::update()
+void KelTopNumberPrivate::update() const
 {
     if (q->isComponentComplete())
         q->update();

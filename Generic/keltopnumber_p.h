@@ -25,7 +25,7 @@ public:
     //! Takes new sizes and repaints, once the component is complete.
     void recalculate();
     //! Repaints, once the component is complete.
-    void update();
+    void update() const;
 
     KelTopNumber *q;
     QColor borderColor;

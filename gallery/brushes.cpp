@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "brushes.h"
 
+#include <QtGui/QBrush>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 
@@ -21,36 +22,36 @@ Brushes::Brushes(QObject *parent)
 {
 }
 
-QBrush Brushes::hatching()
+QVariant Brushes::hatching()
 {
-    return {QColor(0xff, 0xc2, 0x47), Qt::BDiagPattern};
+    return QBrush(QColor(0xff, 0xc2, 0x47), Qt::BDiagPattern);
 }
 
-QBrush Brushes::grid()
+QVariant Brushes::grid()
 {
-    return {QColor(0x7f, 0xe3, 0xc4), Qt::CrossPattern};
+    return QBrush(QColor(0x7f, 0xe3, 0xc4), Qt::CrossPattern);
 }
 
-QBrush Brushes::sunset()
+QVariant Brushes::sunset()
 {
     return fitted(QLinearGradient(0, 0, 0.4, 1),
         {{0, QColor(0x1b, 0x1a, 0x4b)}, {0.5, QColor(0xa3, 0x3b, 0x6b)}, {1, QColor(0xff, 0xc2, 0x47)}});
 }
 
-QBrush Brushes::glow()
+QVariant Brushes::glow()
 {
     return fitted(QRadialGradient(0.5, 0.5, 0.7),
         {{0, QColor(0xff, 0xf3, 0xd0)}, {0.3, QColor(0x7f, 0xe3, 0xc4)}, {1, QColor(0x7f, 0xe3, 0xc4, 0)}});
 }
 
-QBrush Brushes::wheel()
+QVariant Brushes::wheel()
 {
     return fitted(QConicalGradient(0.5, 0.5, 90),
         {{0, QColor(0xff, 0x9a, 0xa8)}, {0.33, QColor(0xff, 0xc2, 0x47)}, {0.66, QColor(0x7f, 0xe3, 0xc4)},
             {1, QColor(0xff, 0x9a, 0xa8)}});
 }
 
-QBrush Brushes::weave()
+QVariant Brushes::weave()
 {
     constexpr int side = 24;
     QImage tile(side, side, QImage::Format_RGB32);
@@ -61,5 +62,5 @@ QBrush Brushes::weave()
     painter.fillRect(side / 2 - 3, 0, 6, side / 2, QColor(0x7f, 0xe3, 0xc4));
     painter.fillRect(0, side * 3 / 4 - 3, side / 2, 6, QColor(0x7f, 0xe3, 0xc4));
     painter.end();
-    return tile;
+    return QBrush(tile);
 }

@@ -25,11 +25,18 @@ GalleryPage {
         }
     ]
 
+    component Area: Generic.BrushArea {
+        property var fill
+
+        // No type of QML.
+        brush: fill // qmllint disable missing-type
+    }
+
     component Sample: Card {
         id: _sample
 
         required property int index
-        property alias area: _area
+        property alias fill: _area.fill
 
         page: _page
         width: 272
@@ -39,7 +46,7 @@ GalleryPage {
 
         // The fill begins at the area's position in its parent.
         Item {
-            Generic.BrushArea {
+            Area {
                 id: _area
 
                 width: 240
@@ -51,28 +58,28 @@ GalleryPage {
     Sample {
         index: 0
         caption: qsTr("pattern: diagonals")
-        area.brush: Brushes.hatching
+        fill: Brushes.hatching
     }
 
     Sample {
         x: 284
         index: 1
         caption: qsTr("pattern: crosses")
-        area.brush: Brushes.grid
+        fill: Brushes.grid
     }
 
     Sample {
         x: 568
         index: 2
         caption: qsTr("texture")
-        area.brush: Brushes.weave
+        fill: Brushes.weave
     }
 
     Sample {
         y: 162
         index: 3
         caption: qsTr("linear gradient")
-        area.brush: Brushes.sunset
+        fill: Brushes.sunset
     }
 
     Sample {
@@ -80,7 +87,7 @@ GalleryPage {
         y: 162
         index: 4
         caption: qsTr("radial gradient")
-        area.brush: Brushes.glow
+        fill: Brushes.glow
     }
 
     Sample {
@@ -90,7 +97,7 @@ GalleryPage {
         y: 162
         index: 5
         caption: qsTr("conical gradient")
-        area.brush: Brushes.wheel
+        fill: Brushes.wheel
     }
 
     Card {
@@ -100,10 +107,10 @@ GalleryPage {
         caption: qsTr("OK on a brush paints the wide area with it")
 
         Item {
-            Generic.BrushArea {
+            Area {
                 width: 808
                 height: 96
-                brush: [
+                fill: [
                     Brushes.hatching, Brushes.grid, Brushes.weave, Brushes.sunset, Brushes.glow, Brushes.wheel
                 ][_page.current]
             }

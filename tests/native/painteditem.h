@@ -72,7 +72,7 @@ public:
         , m_spy(&item, property.notifySignal())
     {
         const QMetaObject *meta = item.metaObject();
-        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("hear()"));
+        const QMetaMethod slot = staticMetaObject.method(staticMetaObject.indexOfSlot("hear()"));
         for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
             if (meta->method(i).methodType() == QMetaMethod::Signal)
                 connect(&item, meta->method(i), this, slot);

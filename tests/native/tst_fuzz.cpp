@@ -92,7 +92,7 @@ public:
         case 1:
             return QString::number(number());
         case 2:
-            return QString(upTo(3000), QChar(u'a' + upTo(25)));
+            return QString(QChar(u'a' + upTo(25))).repeated(upTo(3000));
         case 3:
             return QString(QChar(0xd800 + upTo(0x7ff))) + u"x"_s + QChar(0);
         case 4:

@@ -181,10 +181,8 @@ void tst_Helpers::invalidAddressesGiveAnEmptyOne()
 void tst_Helpers::argumentIsLeftAlone()
 {
     const QUrl url(u"http://a.example/p?x=1#f"_s);
-    const QUrl copy = url;
     KelHelpers().imageUrl(url, 100, 100, true, true);
-    QCOMPARE(url, copy);
-    QCOMPARE(url.query(), u"x=1"_s);
+    QCOMPARE(url.toString(), u"http://a.example/p?x=1#f"_s);
 }
 
 void tst_Helpers::fromQml_data()

@@ -286,7 +286,8 @@ public:
     int preparedCount()
     {
         const auto &pieces = hidden()->pieces;
-        return int(std::count_if(pieces.begin(), pieces.end(), [](const auto &piece) { return piece.isPrepared; }));
+        return int(
+            std::count_if(pieces.begin(), pieces.end(), [](const auto &piece) { return piece.isPrepared; }));
     }
 
     QStringList signalsSent;
@@ -320,10 +321,10 @@ QImage painted(Text &text, const Canvas &canvas = {})
 //! What random lines are made of: first letters alone, then what is laid out in other ways.
 QStringList words()
 {
-    return {u"word"_s, u"AV"_s, u"Слово"_s, u"длинноеслово"_s, u"λόγος"_s, u"漢字"_s,
-        u"かな"_s, u"、"_s, u"😀"_s, u"👩‍🚀"_s, u"עברית"_s, u"عربي"_s, u"\u2028"_s, u"\u2029"_s, u"<b>bold</b>"_s,
-        u"&lt;"_s, u"<br>"_s, u"a < b & c"_s, u"\t"_s, u"\r"_s, u"e\u0301"_s, u"\u0301"_s, u"\u00ad"_s, u"\u00a0"_s,
-        u"№—…«»€"_s, u"½ﬁ∞→☃"_s, u"\u200b"_s, u"\ufeff"_s, u"  "_s, u"."_s, u"-"_s};
+    return {u"word"_s, u"AV"_s, u"Слово"_s, u"длинноеслово"_s, u"λόγος"_s, u"漢字"_s, u"かな"_s, u"、"_s,
+        u"😀"_s, u"👩‍🚀"_s, u"עברית"_s, u"عربي"_s, u"\u2028"_s, u"\u2029"_s, u"<b>bold</b>"_s,
+        u"&lt;"_s, u"<br>"_s, u"a < b & c"_s, u"\t"_s, u"\r"_s, u"e\u0301"_s, u"\u0301"_s, u"\u00ad"_s,
+        u"\u00a0"_s, u"№—…«»€"_s, u"½ﬁ∞→☃"_s, u"\u200b"_s, u"\ufeff"_s, u"  "_s, u"."_s, u"-"_s};
 }
 
 QList<QFont> allFonts()
@@ -459,7 +460,8 @@ void Walk::step()
         break;
     }
     case 3: {
-        const double height = oneOf<double>({0, -3, 50.9, 100, 100, 160, 300, 1e12, -1e12, infinity, notANumber});
+        const double height =
+            oneOf<double>({0, -3, 50.9, 100, 100, 160, 300, 1e12, -1e12, infinity, notANumber});
         m_operation = u"height %1"_s.arg(height);
         m_item.setHeight(height);
         m_plain.height = m_item.height();
@@ -482,7 +484,8 @@ void Walk::step()
         break;
     }
     case 7: {
-        const double scrollStep = oneOf<double>({0.3, 0.3 + 1e-16, 0, 0.5, 1, -0.5, 1e12, -1e12, infinity, notANumber});
+        const double scrollStep =
+            oneOf<double>({0.3, 0.3 + 1e-16, 0, 0.5, 1, -0.5, 1e12, -1e12, infinity, notANumber});
         m_operation = u"step %1"_s.arg(scrollStep);
         m_item.setScrollStep(scrollStep);
         m_plain.setScrollStep(scrollStep);
@@ -555,7 +558,8 @@ QString Walk::difference()
         QString their;
         QDebug(&our) << ours;
         QDebug(&their) << plain;
-        return our == their ? QString() : u"%1: %2 instead of %3; "_s.arg(QLatin1StringView(what), our, their);
+        return our == their ? QString()
+                            : u"%1: %2 instead of %3; "_s.arg(QLatin1StringView(what), our, their);
     };
     QString result = compared("signals", m_item.takeSignals(), std::exchange(m_plain.signalsSent, {}))
         + compared("text", m_item.text(), m_plain.text) + compared("offset", m_item.offset(), m_plain.offset)
@@ -727,9 +731,8 @@ void tst_LargeText::setters_data()
     QTest::addColumn<QStringList>("signalsSent");
     QTest::addColumn<bool>("repaint");
     const auto add = [](const char *name, const QVariant &equal, const QVariant &changed,
-                         const QStringList &signalsSent, bool repaint) {
-        QTest::newRow(name) << equal << changed << signalsSent << repaint;
-    };
+                         const QStringList &signalsSent,
+                         bool repaint) { QTest::newRow(name) << equal << changed << signalsSent << repaint; };
     // 20 lines of 24 pixels in 100.
     add("text", lines(20), u"x"_s, {u"maximum -76"_s, u"text"_s}, true);
     add("color", QColor(), QColor(Qt::red), {u"color"_s}, false);
@@ -794,8 +797,7 @@ void tst_LargeText::textWithoutLineBreakIsPreparedAtOnce()
     item.setText(u"some words that stand on more than one line"_s);
     QVERIFY(item.hidden()->allPrepared);
     QCOMPARE_GT(item.contentHeight(), 2 * 24);
-    QCOMPARE(item.takeSignals(),
-        QStringList({u"maximum %1"_s.arg(item.contentHeight() - 30), u"text"_s}));
+    QCOMPARE(item.takeSignals(), QStringList({u"maximum %1"_s.arg(item.contentHeight() - 30), u"text"_s}));
     item.passOfTheEventLoop();
     QCOMPARE(item.takeSignals(), QStringList());
 }
@@ -1173,7 +1175,7 @@ void tst_LargeText::sizesThatShowNothing()
 void tst_LargeText::sameAsThePlainAlgorithm_data()
 {
     QTest::addColumn<quint32>("seed");
-    
+
     const int seed = qEnvironmentVariableIntValue("KELUI_SEED");
     for (int i = 0; i < 8; ++i)
         QTest::addRow("%d", seed + i) << quint32(seed + i);
@@ -1189,7 +1191,8 @@ void tst_LargeText::sameAsThePlainAlgorithm()
         operations.append(walk.lastOperation());
         const QString difference = walk.difference();
         if (!difference.isEmpty())
-            QFAIL(qPrintable(operations.mid(std::max(0, i - 12)).join(u'\n') + u"\nafter %1: "_s.arg(i) + difference));
+            QFAIL(qPrintable(
+                operations.mid(std::max(0, i - 12)).join(u'\n') + u"\nafter %1: "_s.arg(i) + difference));
     }
 }
 

@@ -36,11 +36,7 @@ QRect plainSliderArea(QSize size, Qt::Orientation orientation, int maximum, int 
     if (maximum < 1)
         return null;
     const double ratio = length / maximum;
-    double sliderLength = length - maximum;
-    if (sliderLength < std::trunc(length / 20))
-        sliderLength = std::trunc(length / 20);
-    if (sliderLength < std::trunc(ratio))
-        sliderLength = std::trunc(ratio);
+    const double sliderLength = std::max({length - maximum, std::trunc(length / 20), std::trunc(ratio)});
     const double p = std::trunc(sliderPosition * ratio);
     double start = std::trunc(p - (p / length) * sliderLength);
     double end = start + sliderLength - 1;
@@ -268,7 +264,7 @@ void tst_ScrollBar::positionOutOfRangeIsAChangeEachTime()
         return values;
     };
     bar.setSliderPosition(50);
-    QCOMPARE(positions(), QVariantList({10}));
+    QCOMPARE(positions(), QVariantList() << 10);
     forgetRepaintRequest(bar);
     bar.setSliderPosition(50);
     QCOMPARE(positions(), QVariantList({10, 10}));
