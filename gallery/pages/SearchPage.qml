@@ -122,8 +122,6 @@ GalleryPage {
                 editField();
             return true;
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             editField();
             return true;
         }
@@ -146,12 +144,8 @@ GalleryPage {
             _navigation.moveAcrossRows(1);
             return true;
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             _keyboard.processKeyActivated(_navigation.currentIndex());
             return true;
-        case Qt.Key_Escape:
-        case Qt.Key_Backspace:
         case Qt.Key_Back:
             leaveField();
             return true;
