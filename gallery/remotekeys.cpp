@@ -49,21 +49,21 @@ struct ScanCodeTranslation
 // The kernel's numbers. Neither xkb nor Qt has names for all keys of remotes.
 constexpr quint32 offset = 8; // Of the numbers that Qt has from xkb.
 constexpr std::array scanCodeTranslations{
-    ScanCodeTranslation{139 + offset, Qt::Key_Menu},                 // KEY_MENU
-    ScanCodeTranslation{158 + offset, Qt::Key_Back},                 // KEY_BACK
+    ScanCodeTranslation{139 + offset, Qt::Key_Menu}, // KEY_MENU
+    ScanCodeTranslation{158 + offset, Qt::Key_Back}, // KEY_BACK
     ScanCodeTranslation{164 + offset, Qt::Key_MediaTogglePlayPause}, // KEY_PLAYPAUSE
-    ScanCodeTranslation{168 + offset, Qt::Key_AudioRewind},          // KEY_REWIND
-    ScanCodeTranslation{172 + offset, Qt::Key_HomePage},             // KEY_HOMEPAGE
-    ScanCodeTranslation{174 + offset, Qt::Key_Back},                 // KEY_EXIT
+    ScanCodeTranslation{168 + offset, Qt::Key_AudioRewind}, // KEY_REWIND
+    ScanCodeTranslation{172 + offset, Qt::Key_HomePage}, // KEY_HOMEPAGE
+    ScanCodeTranslation{174 + offset, Qt::Key_Back}, // KEY_EXIT
     ScanCodeTranslation{207 + offset, Qt::Key_MediaTogglePlayPause}, // KEY_PLAY
-    ScanCodeTranslation{208 + offset, Qt::Key_AudioForward},         // KEY_FASTFORWARD
-    ScanCodeTranslation{217 + offset, Qt::Key_Search},               // KEY_SEARCH
-    ScanCodeTranslation{352 + offset, Qt::Key_Return},               // KEY_OK
-    ScanCodeTranslation{353 + offset, Qt::Key_Return},               // KEY_SELECT
-    ScanCodeTranslation{398 + offset, Qt::Key_Red},                  // KEY_RED
-    ScanCodeTranslation{399 + offset, Qt::Key_Green},                // KEY_GREEN
-    ScanCodeTranslation{400 + offset, Qt::Key_Yellow},               // KEY_YELLOW
-    ScanCodeTranslation{401 + offset, Qt::Key_Blue},                 // KEY_BLUE
+    ScanCodeTranslation{208 + offset, Qt::Key_AudioForward}, // KEY_FASTFORWARD
+    ScanCodeTranslation{217 + offset, Qt::Key_Search}, // KEY_SEARCH
+    ScanCodeTranslation{352 + offset, Qt::Key_Return}, // KEY_OK
+    ScanCodeTranslation{353 + offset, Qt::Key_Return}, // KEY_SELECT
+    ScanCodeTranslation{398 + offset, Qt::Key_Red}, // KEY_RED
+    ScanCodeTranslation{399 + offset, Qt::Key_Green}, // KEY_GREEN
+    ScanCodeTranslation{400 + offset, Qt::Key_Yellow}, // KEY_YELLOW
+    ScanCodeTranslation{401 + offset, Qt::Key_Blue}, // KEY_BLUE
 };
 
 } // namespace
@@ -107,8 +107,8 @@ bool RemoteKeys::hear(QObject *watched, QKeyEvent &event)
     if (key == event.key() && isRepeat == event.isAutoRepeat())
         return false;
     const QString text = key == event.key() ? event.text() : QString();
-    QKeyEvent translated(event.type(), key, event.modifiers(), event.nativeScanCode(), event.nativeVirtualKey(),
-        event.nativeModifiers(), text, isRepeat, quint16(event.count()));
+    QKeyEvent translated(event.type(), key, event.modifiers(), event.nativeScanCode(),
+        event.nativeVirtualKey(), event.nativeModifiers(), text, isRepeat, quint16(event.count()));
     m_isSending = true;
     QCoreApplication::sendEvent(watched, &translated);
     m_isSending = false;

@@ -31,8 +31,7 @@ inline int distance(QRgb left, QRgb right)
 }
 
 //! Marks what differs in red on a faint copy; the number of such pixels is in count.
-inline QImage difference(
-    const QImage &actual, const QImage &expected, int &count, int allowed = tolerance)
+inline QImage difference(const QImage &actual, const QImage &expected, int &count, int allowed = tolerance)
 {
     count = 0;
     QImage result(actual.size().expandedTo(expected.size()), QImage::Format_RGB32);

@@ -88,8 +88,9 @@ class X11Viewer : public Viewer
 public:
     bool open() override
     {
-        m_server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nocursor"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
-            u"0"_s, u"%1x%2x24"_s.arg(size.width()).arg(size.height()), u"-fbdir"_s, m_folder.path()});
+        m_server.start(u"Xvfb"_s,
+            {u"-displayfd"_s, u"1"_s, u"-nocursor"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s,
+                u"%1x%2x24"_s.arg(size.width()).arg(size.height()), u"-fbdir"_s, m_folder.path()});
         const QString display = u':' + m_server.line();
         for (Program *program : {&m_gallery, &m_hand})
             program->setVariable(u"DISPLAY"_s, display);
@@ -153,13 +154,18 @@ public:
     {
         QStringList arguments;
         if (m_isScripted)
-            arguments << u"gallery"_s << u"--web"_s << (port.isEmpty() ? QStringList() : QStringList(port)) << u"--"_s;
+            arguments << u"gallery"_s << u"--web"_s << (port.isEmpty() ? QStringList() : QStringList(port))
+                      << u"--"_s;
         else
             arguments << port << QStringLiteral(KELUI_GALLERY);
         setArguments(arguments + galleryArguments);
         start();
         static const QRegularExpression address(u"http://127\\.0\\.0\\.1:\\d+/"_s);
-        return address.match(line()).captured();
+        const QString result = address.match(line()).captured();
+        // As long as the gallery itself has not begun, bash stands for it, which complains when it is ended.
+        static const QRegularExpression gallery(u"\\S*/kelui-gallery .*"_s);
+        const auto isShown = [this] { return processes().indexOf(gallery) >= 0; };
+        return result.isEmpty() || QTest::qWaitFor(isShown, patience) ? result : QString();
     }
     //! The processes that it has started and that are still there.
     QStringList processes() const
@@ -195,8 +201,9 @@ public:
         const QString address = m_gallery.open();
         m_browser.setVariable(u"NODE_PATH"_s, QStringLiteral(KELUI_OUTPUT "/node_modules"));
         m_browser.start(u"node"_s,
-            {QStringLiteral(KELUI_SOURCE "/tests/e2e/browser.js"), QStandardPaths::findExecutable(u"chromium"_s),
-                QString::number(size.width()), QString::number(size.height())});
+            {QStringLiteral(KELUI_SOURCE "/tests/e2e/browser.js"),
+                QStandardPaths::findExecutable(u"chromium"_s), QString::number(size.width()),
+                QString::number(size.height())});
         return !address.isEmpty() && tell(u"open"_s, address);
     }
     bool press(const QStringList &keys) override
@@ -386,13 +393,15 @@ void tst_e2e::look(Viewer &viewer, const QString &name)
     };
     if (QTest::qWaitFor(isSeen, patience))
         return;
-    const QString prefix = QStringLiteral(KELUI_OUTPUT "/%1-%2").arg(name, QLatin1String(QTest::currentDataTag()));
+    const QString prefix =
+        QStringLiteral(KELUI_OUTPUT "/%1-%2").arg(name, QLatin1String(QTest::currentDataTag()));
     QVERIFY(actual.save(prefix + u"-actual.png"_s) && marked.save(prefix + u"-difference.png"_s));
-    QFAIL(qPrintable(u"%1 pixels differ from %2; see\n  %3-actual.png\n  %3-difference.png"_s.arg(count)
-            .arg(reference, prefix)));
+    QFAIL(qPrintable(u"%1 pixels differ from %2; see\n  %3-actual.png\n  %3-difference.png"_s.arg(count).arg(
+        reference, prefix)));
 }
 
-//! Takes as the reference what has stood still for longer than any animation pauses, but not than a cursor blinks.
+//! Takes as the reference what has stood still for longer than any animation pauses, but not than a cursor
+//! blinks.
 void tst_e2e::accept(Viewer &viewer, const QString &reference)
 {
     constexpr int duration = 400;

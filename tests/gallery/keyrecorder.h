@@ -10,7 +10,10 @@ class KeyRecorder : public QWindow
     Q_OBJECT
 
 public:
-    static QString text(const char *what, int key) { return QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(key); }
+    static QString text(const char *what, int key)
+    {
+        return QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(key);
+    }
 
     QStringList events;
     QString lastText;

@@ -52,11 +52,11 @@ void tst_remotekeys::translates_data()
     const auto add = [](const char *name, int key, int expected) {
         QTest::newRow(name) << key << 0U << expected;
     };
-    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_Back,
-             Qt::Key_0, Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_6, Qt::Key_7, Qt::Key_8,
-             Qt::Key_9, Qt::Key_AudioRewind, Qt::Key_AudioForward, Qt::Key_MediaTogglePlayPause,
-             Qt::Key_MediaPause, Qt::Key_MediaStop, Qt::Key_Red, Qt::Key_Green, Qt::Key_Yellow, Qt::Key_Blue,
-             Qt::Key_Menu, Qt::Key_HomePage, Qt::Key_Search})
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return,
+             Qt::Key_Back, Qt::Key_0, Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_6,
+             Qt::Key_7, Qt::Key_8, Qt::Key_9, Qt::Key_AudioRewind, Qt::Key_AudioForward,
+             Qt::Key_MediaTogglePlayPause, Qt::Key_MediaPause, Qt::Key_MediaStop, Qt::Key_Red, Qt::Key_Green,
+             Qt::Key_Yellow, Qt::Key_Blue, Qt::Key_Menu, Qt::Key_HomePage, Qt::Key_Search})
         QTest::addRow("itself, %x", unsigned(key)) << int(key) << 0U << int(key);
     add("enter of the number pad", Qt::Key_Enter, Qt::Key_Return);
     add("select", Qt::Key_Select, Qt::Key_Return);
