@@ -2,6 +2,7 @@
 #include "kelimagecolorizer.h"
 #include "kelimagecolorizer_p.h"
 
+#include <QtCore/QCache>
 #include <QtGui/QColorSpace>
 #include <QtQuick/private/qquickimage_p.h>
 #include <QtQuick/private/qquickimage_p_p.h>
@@ -57,6 +58,47 @@ QImage recolored(const QImage &picture, NewPixel newPixel)
         return mapped(picture.convertToFormat(QImage::Format_ARGB32),
             [=](QRgb pixel) { return newPixel(pixel & alphaMask, (pixel & colorMask) != 0); });
     }
+}
+
+//! A picture and what is done to it.
+struct Recoloring
+{
+    qint64 picture;
+    QRgb color;
+    KelImageColorizer::ColoringMethod method;
+    int lastAlpha;
+
+    QImage apply(const QImage &picture) const
+    {
+        if (method == KelImageColorizer::DestinationAlpha)
+            return KelColorizing::withDestinationAlpha(picture, color, lastAlpha);
+        return KelColorizing::withSourceAlpha(picture, color);
+    }
+
+    bool operator==(const Recoloring &other) const = default;
+
+    friend size_t qHash(const Recoloring &key, size_t seed) noexcept
+    {
+        return qHashMulti(seed, key.picture, key.color, int(key.method), key.lastAlpha);
+    }
+};
+
+/*!
+    The picture recoloured, as Qt Quick keeps and draws pictures. Icons share their pixels: the buttons of a
+    screen show few icons in few colours, over and over.
+*/
+QImage shared(const Recoloring &recoloring, const QImage &picture)
+{
+    // Bytes; an icon has up to 128 × 128 pixels.
+    constexpr qsizetype largestIcon = 64 * 1024;
+    constexpr qsizetype maximumSize = 1024 * 1024;
+    static QCache<Recoloring, QImage> icons(maximumSize);
+    if (const QImage *known = icons.object(recoloring))
+        return *known;
+    QImage result = recoloring.apply(picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (result.sizeInBytes() <= largestIcon)
+        icons.insert(recoloring, new QImage(result), result.sizeInBytes());
+    return result;
 }
 
 } // namespace
@@ -158,16 +200,12 @@ void KelImageColorizer::tryColorizeImage()
     const QImage picture = image->image();
     if (picture.isNull())
         return;
-    const QRgb color = m_color.rgba();
+    const QImage result =
+        shared({picture.cacheKey(), m_color.rgba(), m_coloringMethod, m_lastAlpha}, picture);
+    if (m_coloringMethod == DestinationAlpha && m_color.alpha() != 0)
+        m_lastAlpha = m_color.alpha();
     // Qt has no public way to give an Image a picture without changing its source. Should this one vanish,
     // an image provider that serves the recoloured picture to the same item takes its place.
     auto *shown = static_cast<QQuickImagePrivate *>(QQuickItemPrivate::get(image));
-    if (m_coloringMethod != DestinationAlpha) {
-        shown->setImage(KelColorizing::withSourceAlpha(picture, color));
-        return;
-    }
-    const QImage result = KelColorizing::withDestinationAlpha(picture, color, m_lastAlpha);
-    if (qAlpha(color) != 0)
-        m_lastAlpha = qAlpha(color);
     shown->setImage(result);
 }

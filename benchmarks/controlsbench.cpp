@@ -184,6 +184,8 @@ public:
     double kilobytes()
     {
         constexpr double kilobyte = 1024;
+        // What was shown before is let go of by the next frame.
+        m_scene.renderFrame();
         const double before = heapInUse();
         const auto controls = m_scene.create(*m_component);
         m_scene.renderFrame();

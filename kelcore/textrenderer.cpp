@@ -233,6 +233,15 @@ struct TextRenderer::Picture
     }
 };
 
+//! What a label came to; its picture is made by the first that is drawn.
+struct TextRenderer::Label
+{
+    QString text;
+    QFont font;
+    Fit fit;
+    std::shared_ptr<const Picture> picture;
+};
+
 /*!
     What is kept of shaped text. A screen has few fonts and shows the same short labels again and again, as
    the keys of a keyboard do.
@@ -265,19 +274,13 @@ struct TextRenderer::Kept
         }
     };
 
-    struct Label
-    {
-        Fit fit;
-        std::shared_ptr<const Picture> picture;
-    };
-
     static constexpr qsizetype maximumFonts = 32;
     static constexpr qsizetype maximumLabels = 512;
     //! Characters.
     static constexpr qsizetype longestLabel = 32;
 
     QHash<QFont, Ellipsis> ellipses;
-    QCache<Key, Label> labels{maximumLabels};
+    QCache<Key, std::shared_ptr<Label>> labels{maximumLabels};
 
     void clear()
     {
@@ -316,17 +319,22 @@ struct TextRenderer::Kept
         return *found;
     }
 
-    static const Label *find(const Key &key)
+    static std::shared_ptr<Label> find(const Key &key)
     {
         Kept *kept = key.text.size() <= longestLabel ? instance() : nullptr;
-        return kept ? kept->labels.object(key) : nullptr;
+        const std::shared_ptr<Label> *found = kept ? kept->labels.object(key) : nullptr;
+        return found ? *found : nullptr;
     }
 
-    static void keep(const Key &key, const Label &label)
+    //! Null where nothing is kept.
+    static std::shared_ptr<Label> keep(const Key &key, const Fit &fit)
     {
         Kept *kept = key.text.size() <= longestLabel ? instance() : nullptr;
-        if (kept)
-            kept->labels.insert(key, new Label(label));
+        if (!kept)
+            return nullptr;
+        auto label = std::make_shared<Label>(Label{key.text, key.font, fit, nullptr});
+        kept->labels.insert(key, new std::shared_ptr<Label>(label));
+        return label;
     }
 };
 
@@ -636,6 +644,7 @@ TextRenderer &TextRenderer::operator=(const TextRenderer &other)
     m_availableHeight = other.m_availableHeight;
     m_isShaped = false;
     m_layout.reset();
+    m_label.reset();
     m_picture = other.m_picture;
     return *this;
 }
@@ -708,18 +717,21 @@ void TextRenderer::relayout()
     fit.availableHeight = m_availableHeight;
     const bool isSame = m_isShaped && m_fit.hasSameLines(fit);
     if (!isSame || !m_fit.hasSamePlaces(fit)) {
+        const Kept::Key key(m_text, m_font, fit);
         const bool isLaidOut = m_isShaped && m_layout;
-        const Kept::Label *known = isLaidOut ? nullptr : Kept::find({m_text, m_font, fit});
+        m_label = isLaidOut ? nullptr : Kept::find(key);
         if (!isLaidOut)
-            m_layout = known ? nullptr : std::make_unique<Layout>(m_text, m_font);
-        if (known)
-            fit = known->fit;
+            m_layout = m_label ? nullptr : std::make_unique<Layout>(m_text, m_font);
+        if (m_label)
+            fit = m_label->fit;
         else if (isSame && m_layout->isBroken())
             m_layout->place(fit);
         else
             m_layout->breakLines(fit);
         fit.availableHeight = m_availableHeight;
-        m_picture = known ? known->picture : nullptr;
+        m_picture = nullptr;
+        if (!m_label)
+            m_label = Kept::keep(key, fit);
     }
     m_isShaped = true;
     m_fit = fit;
@@ -746,12 +758,23 @@ void TextRenderer::draw(QPainter &painter) const
 
 void TextRenderer::makePicture() const
 {
-    if (m_picture || !m_layout)
+    if (m_picture || !(m_layout || m_label))
         return;
-    m_picture = m_layout->picture();
-    Kept::keep({m_layout->text, m_layout->font, m_fit}, {m_fit, m_picture});
+    if (m_label)
+        m_picture = m_label->picture;
+    if (!m_picture) {
+        if (!m_layout) {
+            m_layout = std::make_unique<Layout>(m_label->text, m_label->font);
+            Fit fit = m_fit;
+            m_layout->breakLines(fit);
+        }
+        m_picture = m_layout->picture();
+        if (m_label && Kept::instance())
+            m_label->picture = m_picture;
+    }
     // What is shown seldom changes its lines afterwards; shaping it again then costs less than keeping it.
     m_layout.reset();
+    m_label.reset();
 }
 
 bool TextRenderer::Fit::hasSameLines(const Fit &other) const

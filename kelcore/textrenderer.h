@@ -99,6 +99,7 @@ public:
 
 private:
     struct Kept;
+    struct Label;
     struct Layout;
     struct Picture;
 
@@ -140,6 +141,8 @@ private:
     // The shaped text, to break lines again; absent in copies, before the first relayout and once it was
     // drawn.
     mutable std::unique_ptr<Layout> m_layout;
+    // The same label elsewhere, which may have been drawn already; absent where nothing is kept.
+    mutable std::shared_ptr<Label> m_label;
     // What draw() shows, made from the lines when first asked for.
     mutable std::shared_ptr<const Picture> m_picture;
 };

@@ -11,33 +11,35 @@ import Kelui.UI.Qml.Controls.Generic as KELUIQCG
 QQT.Button {
     id: _button
 
+    // Some defaults are numbers: a name would be a binding, evaluated for each button.
+
     /*! Set by the application's own focus logic; selects the "focused" colours. */
     property bool focused: false
 
     /*! Animate changes of the background's colour. */
-    property bool animateBackgroundColors: false
+    property alias animateBackgroundColors: _backgroundAnimation.enabled
     /*! Animate changes of the title's and subtitle's colours. */
-    property bool animateTextColors: false
+    property alias animateTextColors: _titleAnimation.enabled
     /*! Milliseconds. */
     property int backgroundColorsAnimationDuration: 125
     /*! An Easing type. */
-    property int backgroundColorsAnimationEasingType: Easing.Linear
+    property int backgroundColorsAnimationEasingType: 0 // Easing.Linear
     /*! Curve for Easing.BezierSpline; not used with other types. */
     property var backgroundColorsBezierAnimationInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
     /*! Milliseconds. */
     property int textColorsAnimationDuration: 125
     /*! An Easing type. */
-    property int textColorsAnimationEasingType: Easing.Linear
+    property int textColorsAnimationEasingType: 0 // Easing.Linear
     /*! Curve for Easing.BezierSpline; not used with other types. */
     property var textColorsBezierAnimationInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
 
     /*! Corner radius in pixels, handed to the background, which draws square corners all the same. */
-    property real roundingRadius: 15
+    property alias roundingRadius: _background.roundingRadius
     /*! State colours of the background. */
     property var backgroundColors
 
     /*! Image address. */
-    property string leftIconSource: ""
+    property alias leftIconSource: _leftIcon.source
     /*! Size in pixels; a side that is not above 0 is the image's own. */
     property size leftIconSize
     /*! State colours of the left icon. */
@@ -46,7 +48,7 @@ QQT.Button {
     property bool leftIconColored: true
 
     /*! Image address. */
-    property string rightIconSource: ""
+    property alias rightIconSource: _rightIcon.source
     /*! Size in pixels; a side that is not above 0 is the image's own. */
     property size rightIconSize
     /*! State colours of the right icon. */
@@ -63,19 +65,19 @@ QQT.Button {
     property int textBlockSpacing: 10
 
     /*! Also the template's text. */
-    property string titleText: ""
-    property font titleFont
+    property alias titleText: _title.text
+    property alias titleFont: _title.font
     /*! State colours of the title. */
     property var titleColors
     /*! Horizontal and vertical alignment flags in one value. */
-    property int titleAlignment: Qt.AlignTop | Qt.AlignLeft
+    property int titleAlignment: 33 // Qt.AlignTop | Qt.AlignLeft
 
-    property string subtitleText: ""
-    property font subtitleFont
+    property alias subtitleText: _subtitle.text
+    property alias subtitleFont: _subtitle.font
     /*! State colours of the subtitle. */
     property var subtitleColors
     /*! Horizontal and vertical alignment flags in one value. */
-    property int subtitleAlignment: Qt.AlignBottom | Qt.AlignRight
+    property int subtitleAlignment: 66 // Qt.AlignBottom | Qt.AlignRight
 
     /*! Outer size in pixels: always the height, and the width while isFixedWidth is set. Must be set. */
     property size fixedSize
@@ -87,16 +89,18 @@ QQT.Button {
 
     implicitWidth: isFixedWidth ? fixedSize.width : _contentBlock.width + leftPadding + rightPadding
     implicitHeight: fixedSize.height
-    text: titleText
+    text: _title.text
 
     background: KELUIQCG.Rectangle {
         id: _background
 
-        roundingRadius: _button.roundingRadius
+        roundingRadius: 15
         color: _button.stateColor(_button.backgroundColors)
 
         Behavior on color {
-            enabled: _button.animateBackgroundColors
+            id: _backgroundAnimation
+
+            enabled: false
 
             ColorAnimation {
                 duration: _button.backgroundColorsAnimationDuration
@@ -131,7 +135,6 @@ QQT.Button {
                 width: _button.leftIconSize.width > 0 ? _button.leftIconSize.width : undefined
                 height: _button.leftIconSize.height > 0 ? _button.leftIconSize.height : undefined
                 iconColor: _button.stateColor(_button.leftIconColors)
-                source: _button.leftIconSource
             }
 
             Column {
@@ -151,10 +154,8 @@ QQT.Button {
                     horizontalAlignment: _button.titleAlignment
                     verticalAlignment: _button.titleAlignment
                     maximumLineCount: 1
-                    font: _button.titleFont
                     color: _button.stateColor(_button.titleColors)
-                    text: _button.titleText
-                    visible: _button.titleText !== ""
+                    visible: text !== ""
 
                     onTextChanged: {
                         if (_button.isFixedWidth)
@@ -163,7 +164,9 @@ QQT.Button {
                     onImplicitWidthChanged: _button.recalculateTextWidth()
 
                     Behavior on color {
-                        enabled: _button.animateTextColors
+                        id: _titleAnimation
+
+                        enabled: false
 
                         ColorAnimation {
                             duration: _button.textColorsAnimationDuration
@@ -180,10 +183,8 @@ QQT.Button {
                     horizontalAlignment: _button.subtitleAlignment
                     verticalAlignment: _button.subtitleAlignment
                     maximumLineCount: 1
-                    font: _button.subtitleFont
                     color: _button.stateColor(_button.subtitleColors)
-                    text: _button.subtitleText
-                    visible: _button.subtitleText !== ""
+                    visible: text !== ""
 
                     onTextChanged: {
                         if (_button.isFixedWidth)
@@ -192,7 +193,7 @@ QQT.Button {
                     onImplicitWidthChanged: _button.recalculateTextWidth()
 
                     Behavior on color {
-                        enabled: _button.animateTextColors
+                        enabled: _titleAnimation.enabled
 
                         ColorAnimation {
                             duration: _button.textColorsAnimationDuration
@@ -211,7 +212,6 @@ QQT.Button {
                 width: _button.rightIconSize.width > 0 ? _button.rightIconSize.width : undefined
                 height: _button.rightIconSize.height > 0 ? _button.rightIconSize.height : undefined
                 iconColor: _button.stateColor(_button.rightIconColors)
-                source: _button.rightIconSource
             }
         }
     }

@@ -15,21 +15,21 @@ QQT.CheckBox {
     /*! Set by the application's own focus logic; selects the "focused" colours. */
     property bool focused: false
     /*! The box alone, for a focus frame around it. */
-    readonly property Item frameSourceItem: _indicator
+    readonly property alias frameSourceItem: _indicator
 
     /*! Round the corners of the box by roundingRadius. */
-    property bool forceRounding: false
+    property alias forceRounding: _indicator.forceRounding
     /*! Pixels. */
     property int roundingRadius: 9
     /*! Size of the box in pixels. */
-    property size indicatorSize: Qt.size(60, 60)
+    property size indicatorSize: "60x60"
     /*! State colours of the box. */
     property var indicatorColors
     /*! Image address of the check icon, which is drawn in its own size and colours. */
     property string iconPath: ""
     /*! State colours whose alpha is the opacity of the check icon. */
     property var iconColors
-    property font titleFont
+    property alias titleFont: _title.font
     /*! State colours of the title. */
     property var titleColors
 
@@ -43,7 +43,6 @@ QQT.CheckBox {
         y: Math.round((_checkBox.height - height) / 2)
         implicitWidth: _checkBox.indicatorSize.width
         implicitHeight: _checkBox.indicatorSize.height
-        forceRounding: _checkBox.forceRounding
         roundingRadius: _checkBox.roundingRadius
         color: _checkBox.stateColor(_checkBox.indicatorColors)
 
@@ -62,9 +61,10 @@ QQT.CheckBox {
         id: _contentItem
 
         KELUIQCG.Text {
+            id: _title
+
             Layout.leftMargin: _indicator.width + _checkBox.spacing
             Layout.fillWidth: true
-            font: _checkBox.titleFont
             color: _checkBox.stateColor(_checkBox.titleColors)
             textWidth: width
             text: _checkBox.text

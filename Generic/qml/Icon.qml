@@ -15,9 +15,9 @@ QQT.Control {
     */
     property bool colorizeOnTransparent: true
     /*! The colour of the icon. The default hides the icon: give it a colour, or clear colorizeOnTransparent. */
-    property color iconColor: "transparent"
+    property alias iconColor: _colorizer.color
     /*! ImageColorizer.DestinationAlpha (the colour's alpha counts) or ImageColorizer.SourceAlpha. */
-    property int coloringMethod: KELUIQCG.ImageColorizer.DestinationAlpha
+    property int coloringMethod: 1 // ImageColorizer.DestinationAlpha
     /*! Corner radius in pixels; accepted, not drawn without OpenGL. */
     property alias roundingRadius: _contentItem.roundingRadius
     /*! Keep the decoded image in the image cache. */
@@ -37,10 +37,12 @@ QQT.Control {
         source: _icon.source
 
         KELUIQCG.ImageColorizer {
+            id: _colorizer
+
             sourceItem: _contentItem
-            color: _icon.iconColor
+            color: "transparent"
             coloringMethod: _icon.coloringMethod
-            enabled: _icon.colorizeOnTransparent || !Qt.colorEqual(_icon.iconColor, "transparent")
+            enabled: _icon.colorizeOnTransparent || !Qt.colorEqual(color, "transparent")
         }
     }
 

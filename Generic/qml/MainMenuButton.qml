@@ -20,9 +20,9 @@ QQT.Button {
     property real backgroundHeight: baseHeight
 
     /*! Animate changes of the background's colour. */
-    property bool animateBackgroundColors: false
+    property alias animateBackgroundColors: _backgroundAnimation.enabled
     /*! Animate changes of the text's colour. */
-    property bool animateTextColors: false
+    property alias animateTextColors: _textAnimation.enabled
     /*! Milliseconds. */
     property int backgroundColorsAnimationDuration: 125
     /*! An Easing type. */
@@ -37,13 +37,13 @@ QQT.Button {
     property list<real> textColorsAnimationBezierInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
 
     /*! Corner radius of the background in pixels. */
-    property real roundingRadius: 15
+    property alias roundingRadius: _background.roundingRadius
     property list<color> backgroundColors: [
         Qt.rgba(1.0, 1.0, 1.0, 1.0), Qt.rgba(1.0, 1.0, 1.0, 0.8), Qt.rgba(1.0, 1.0, 1.0, 0.6)
     ]
 
     /*! Image address. */
-    property string leftIconSource: ""
+    property alias leftIconSource: _leftIcon.source
     /*! Kept for the application; the icon has the size of its image. */
     property size leftIconSize: Qt.size(16, 16)
     property list<color> leftIconColors: [
@@ -57,7 +57,7 @@ QQT.Button {
     /*! Corner radius in pixels; accepted, not drawn without OpenGL. */
     property int rightIconRoundingRadius: 0
 
-    property font textFont
+    property alias textFont: _text.font
     property list<color> textColors: [
         Qt.rgba(0.0, 0.0, 0.0, 1.0), Qt.rgba(0.0, 0.0, 0.0, 0.8), Qt.rgba(0.0, 0.0, 0.0, 0.6)
     ]
@@ -83,10 +83,9 @@ QQT.Button {
         KELUIQCG.Icon {
             id: _leftIcon
 
-            source: _button.leftIconSource
             iconColor: _button.stateColor(_button.leftIconColors)
             cacheIconImage: true
-            visible: _button.leftIconSource !== ""
+            visible: source !== ""
         }
 
         KELUIQCG.Text {
@@ -95,12 +94,13 @@ QQT.Button {
             horizontalAlignment: Qt.AlignHCenter
             verticalAlignment: Qt.AlignVCenter
             maximumLineCount: 1
-            font: _button.textFont
             color: _button.stateColor(_button.textColors)
             text: _button.text
 
             Behavior on color {
-                enabled: _button.animateTextColors
+                id: _textAnimation
+
+                enabled: false
 
                 ColorAnimation {
                     duration: _button.textColorsAnimationDuration
@@ -129,11 +129,13 @@ QQT.Button {
         anchors.verticalCenter: _button.verticalCenter
         height: _button.backgroundHeight
         forceRounding: true
-        roundingRadius: _button.roundingRadius
+        roundingRadius: 15
         color: _button.stateColor(_button.backgroundColors)
 
         Behavior on color {
-            enabled: _button.animateBackgroundColors
+            id: _backgroundAnimation
+
+            enabled: false
 
             ColorAnimation {
                 duration: _button.backgroundColorsAnimationDuration

@@ -231,6 +231,33 @@ private Q_SLOTS:
         }
     }
 
+    //! Of equal labels laid out before a frame only the first is shaped.
+    void labelLaidOutTwiceBeforeItIsDrawn()
+    {
+        const Label label{u"Laid out twice"_s, 200, 1, Qt::AlignRight | Qt::AlignTop};
+        const auto pictureOfLabel = [](const TextRenderer &renderer) {
+            return pictureOf(renderer, {200, 40});
+        };
+        QImage anew;
+        const std::unique_ptr<QThread> thread(
+            QThread::create([&] { anew = pictureOfLabel(laidOut(label)); }));
+        thread->start();
+        QVERIFY(thread->wait());
+        const TextRenderer first = laidOut(label);
+        TextRenderer second = laidOut(label);
+        TextRenderer third = laidOut(label);
+        second.setText(u"Not laid out"_s);
+        second.setTextFont(testFont(40));
+        third.setTextWidth(100);
+        third.relayout();
+        QCOMPARE(pictureOfLabel(second), anew);
+        QCOMPARE(pictureOfLabel(first), anew);
+        QVERIFY(pictureOfLabel(third) != anew);
+        third.setTextWidth(200);
+        third.relayout();
+        QCOMPARE(pictureOfLabel(third), anew);
+    }
+
     void marginsAreAddedAndSaturate()
     {
         const TextRenderer renderer = laidOut({u"Title"_s});

@@ -196,6 +196,7 @@ private Q_SLOTS:
     void disablingDoesNotRestore();
     void freshPictureIsDividedByTheLastAlphaToo();
     void cachedPictureIsLeftAlone();
+    void equalIconsShareTheirPixels();
 
     void otherItemsAreKeptAndLeftAlone_data();
     void otherItemsAreKeptAndLeftAlone();
@@ -706,6 +707,29 @@ void tst_KelImageColorizer::cachedPictureIsLeftAlone()
     const auto later = create("Image");
     later->setSource(image->source());
     QCOMPARE(firstPixel(*later), white);
+}
+
+void tst_KelImageColorizer::equalIconsShareTheirPixels()
+{
+    const auto image = imageOf({white});
+    const auto other = create("Image");
+    other->setSource(image->source());
+    KelImageColorizer colorizer;
+    colorizer.setSourceItem(image.get());
+    colorizer.setColor(Qt::red);
+    KelImageColorizer otherColorizer;
+    otherColorizer.setSourceItem(other.get());
+    otherColorizer.setColor(Qt::red);
+    QCOMPARE(other->image().constBits(), image->image().constBits());
+    otherColorizer.setColor(Qt::blue);
+    QCOMPARE(firstPixel(*image), QColor(Qt::red).rgba());
+    QCOMPARE(firstPixel(*other), QColor(Qt::blue).rgba());
+    // The same colour by another method, or after another alpha, is another picture.
+    colorizer.setColoringMethod(DestinationAlpha);
+    colorizer.setColor(QColor(0, 0, 255, 128));
+    otherColorizer.setColor(QColor(0, 0, 255, 128));
+    QCOMPARE(qAlpha(firstPixel(*image)), 128);
+    QCOMPARE(qAlpha(firstPixel(*other)), 255);
 }
 
 void tst_KelImageColorizer::otherItemsAreKeptAndLeftAlone_data()
