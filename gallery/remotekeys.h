@@ -8,8 +8,8 @@
 
 /*!
     Hears the keys of a window first: those of remote controls, keyboards and game pads become the few that
-   the pages know. A key that is pressed again before it was released is marked as repeating: its way here may
-   have lost that.
+    the pages know. A key that is pressed again before it was released is marked as repeating: its way here
+    may have lost that.
 */
 class RemoteKeys : public QObject
 {
