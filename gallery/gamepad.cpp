@@ -124,8 +124,9 @@ void Gamepad::moveStick(int &axis, int value)
     axis = value;
     const bool isAcross = std::abs(m_stickX) > std::abs(m_stickY);
     const int most = isAcross ? m_stickX : m_stickY;
-    Qt::Key key =
-        isAcross ? (most < 0 ? Qt::Key_Left : Qt::Key_Right) : (most < 0 ? Qt::Key_Up : Qt::Key_Down);
+    const Qt::Key across = m_stickX < 0 ? Qt::Key_Left : Qt::Key_Right;
+    const Qt::Key along = m_stickY < 0 ? Qt::Key_Up : Qt::Key_Down;
+    Qt::Key key = isAcross ? across : along;
     if (std::abs(most) < (key == m_stickKey ? releaseThreshold : pressThreshold))
         key = Qt::Key_unknown;
     if (key == m_stickKey)

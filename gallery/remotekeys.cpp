@@ -120,6 +120,7 @@ Qt::Key RemoteKeys::meaning(int key, quint32 scanCode)
 {
     if (key == 0 || key == Qt::Key_unknown) {
         const auto found = std::ranges::find(scanCodeTranslations, scanCode, &ScanCodeTranslation::from);
+        // NOLINTNEXTLINE(clang-analyzer-optin.core.EnumCastOutOfRange): 0 is how Qt says that it has none.
         return found != scanCodeTranslations.end() ? found->to : Qt::Key(key);
     }
     const auto found = std::ranges::find(translations, key, &Translation::from);

@@ -112,8 +112,10 @@ public:
         if (!file.open(QFile::ReadOnly))
             return {};
         const QByteArray dump = file.readAll();
-        const auto number = [&](int index) { return qFromBigEndian<quint32>(dump.constData() + 4 * index); };
-        if (dump.size() < 4 * (ColorCount + 1))
+        const auto number = [&](qsizetype index) {
+            return qFromBigEndian<quint32>(dump.constData() + 4 * index);
+        };
+        if (dump.size() < qsizetype(4) * (ColorCount + 1))
             return {};
         const qsizetype start = number(HeaderSize) + colorSize * number(ColorCount);
         if (dump.size() < start + qsizetype(number(BytesPerLine)) * number(Height))
@@ -150,7 +152,7 @@ public:
         m_isScripted = isScripted;
     }
     //! Returns the address.
-    QString open(const QString &port = {})
+    QString show(const QString &port = {})
     {
         QStringList arguments;
         if (m_isScripted)
@@ -198,7 +200,7 @@ class WebViewer : public Viewer
 public:
     bool open() override
     {
-        const QString address = m_gallery.open();
+        const QString address = m_gallery.show();
         m_browser.setVariable(u"NODE_PATH"_s, QStringLiteral(KELUI_OUTPUT "/node_modules"));
         m_browser.start(u"node"_s,
             {QStringLiteral(KELUI_SOURCE "/tests/e2e/browser.js"),
@@ -437,7 +439,7 @@ void tst_e2e::isStopped()
     if (const QString absent = missing({u"Xvnc"_s, u"websockify"_s}); !absent.isEmpty())
         QSKIP(qPrintable(absent + u" is not installed"_s));
     WebGallery gallery;
-    QVERIFY(!gallery.open().isEmpty());
+    QVERIFY(!gallery.show().isEmpty());
     // The script, the X server, the proxy and the gallery.
     QVERIFY(gallery.processes().size() >= 4);
     const auto process = pid_t(gallery.processId());
@@ -454,9 +456,9 @@ void tst_e2e::twoAtOnce()
         QSKIP(qPrintable(absent + u" is not installed"_s));
     WebGallery one;
     WebGallery other;
-    const QString address = one.open();
+    const QString address = one.show();
     QVERIFY(!address.isEmpty());
-    const QString otherAddress = other.open();
+    const QString otherAddress = other.show();
     QVERIFY(!otherAddress.isEmpty());
     QVERIFY(address != otherAddress);
     QCOMPARE(one.state(), QProcess::Running);
@@ -468,11 +470,11 @@ void tst_e2e::portIsTaken()
         QSKIP(qPrintable(absent + u" is not installed"_s));
     WebGallery one;
     WebGallery other;
-    const QString address = one.open();
+    const QString address = one.show();
     QVERIFY(!address.isEmpty());
     const QString port = address.section(u':', 2).chopped(1);
     other.setProcessChannelMode(QProcess::SeparateChannels);
-    QCOMPARE(other.open(port), QString());
+    QCOMPARE(other.show(port), QString());
     QVERIFY(other.state() == QProcess::NotRunning || other.waitForFinished(patience));
     QCOMPARE(other.exitCode(), 1);
     const QString errors = QString::fromUtf8(other.readAllStandardError());
