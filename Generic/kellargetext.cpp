@@ -17,6 +17,7 @@
 
 #include "kelframenode_p.h"
 #include "kelglobal.h"
+#include "kelpicture_p.h"
 
 using namespace Qt::StringLiterals;
 
@@ -549,19 +550,16 @@ void KelLargeText::paint(QPainter *painter)
 
 QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
 {
-    // No screen is near as large; a picture would take all memory, and painting all time.
-    constexpr double largest = 1 << 26;
-    const double width = std::round(this->width());
-    const double height = std::round(this->height());
-    // Written so that NaN fails the test.
-    if (!(width >= 1 && height >= 1 && width * height <= largest)) {
-        delete oldNode;
-        return nullptr;
-    }
     QSGNode *node = oldNode;
-    if (KelFrameNode::update(node, *this, [this](QPainter &painter) { paint(&painter); }))
-        return node;
-    return QQuickPaintedItem::updatePaintNode(node, data);
+    // Without the limit for pictures an item as high as its text would paint all of it.
+    if (KelPicture::canKeep(*this)) {
+        if (KelFrameNode::update(node, *this, [this](QPainter &painter) { paint(&painter); }))
+            return node;
+        return QQuickPaintedItem::updatePaintNode(node, data);
+    }
+    delete node;
+    releaseResources();
+    return nullptr;
 }
 
 void KelLargeText::startPreparingTextFrom(int index)

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "kelframenode_p.h"
+#include "kelpicture_p.h"
 
 namespace {
 
@@ -184,7 +185,11 @@ QSGNode *KelText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
                            QPainter &painter) { paintText(painter, renderer, color); };
     if (KelFrameNode::update(node, *this, paint))
         return node;
-    return QQuickPaintedItem::updatePaintNode(node, data);
+    if (KelPicture::canKeep(*this))
+        return QQuickPaintedItem::updatePaintNode(node, data);
+    delete node;
+    releaseResources();
+    return nullptr;
 }
 
 void KelText::updateLayout()

@@ -272,6 +272,10 @@ Window {
         Language.code = language;
     }
 
+    RemoteKeys {
+        window: _window
+    }
+
     /*! Opens a page afresh; focus stays in the menu. */
     function openPage(index: int) {
         openView(index, Main.Try);
@@ -371,6 +375,32 @@ Window {
             currentIndex = line % count;
     }
 
+    /*! Keys that do the same everywhere. */
+    function handleGlobalKey(key: int): bool {
+        switch (key) {
+        case Qt.Key_HomePage:
+        case Qt.Key_Red:
+            return enter("Home");
+        case Qt.Key_Search:
+        case Qt.Key_Green:
+            return enter("Search");
+        case Qt.Key_Menu:
+        case Qt.Key_Yellow:
+            leavePage();
+            return true;
+        case Qt.Key_Blue:
+            nextLanguage();
+            return true;
+        }
+        return false;
+    }
+
+    /*! Opens a page by its name and goes into it. */
+    function enter(name: string): bool {
+        openPage(pageIndex(name));
+        return enterPage();
+    }
+
     function handleMenuKey(key: int): bool {
         switch (key) {
         case Qt.Key_Up:
@@ -384,15 +414,11 @@ Window {
                 enterPage();
             return true;
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             if (isOnLanguage)
                 nextLanguage();
             else
                 enterPage();
             return true;
-        case Qt.Key_Escape:
-        case Qt.Key_Backspace:
         case Qt.Key_Back:
             Qt.quit();
             return true;
@@ -414,14 +440,10 @@ Window {
             return true;
         case Qt.Key_Down:
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             enterPage();
             return true;
         case Qt.Key_Up:
             return true;
-        case Qt.Key_Escape:
-        case Qt.Key_Backspace:
         case Qt.Key_Back:
             leavePage();
             return true;
@@ -440,8 +462,6 @@ Window {
                 enterTabs();
             return true;
         case Qt.Key_Left:
-        case Qt.Key_Escape:
-        case Qt.Key_Backspace:
         case Qt.Key_Back:
             leavePage();
             return true;
@@ -478,9 +498,10 @@ Window {
             id: _keys
 
             Keys.onPressed: event => {
-                event.accepted = _window.isInMenu ? _window.handleMenuKey(event.key)
-                                 : _window.isInTabs ? _window.handleTabKey(event.key)
-                                 : _window.handlePageKey(event.key, event.text);
+                event.accepted = _window.handleGlobalKey(event.key)
+                    || (_window.isInMenu ? _window.handleMenuKey(event.key)
+                        : _window.isInTabs ? _window.handleTabKey(event.key)
+                        : _window.handlePageKey(event.key, event.text));
             }
         }
 

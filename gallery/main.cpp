@@ -12,6 +12,9 @@
 
 #include <cstring>
 
+#ifdef KELUI_HAS_GAMEPAD
+#include "gamepad.h"
+#endif
 #include "language.h"
 #include "shots.h"
 
@@ -86,7 +89,8 @@ int main(int argc, char **argv)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows the controls of Kelui. Keys: arrows, OK (Return), "
-                                                    "Back (Escape or Backspace), digits for pages."));
+                                                    "Back (Escape or Backspace), digits for pages, F1 to F4 "
+                                                    "for the colours of a remote."));
     parser.addHelpOption();
     const QCommandLineOption shotsOption(QStringLiteral("shots"),
         QStringLiteral("Write pictures of the pages into DIR and quit; needs no display."),
@@ -158,5 +162,10 @@ int main(int argc, char **argv)
 
     QMetaObject::invokeMethod(window, "openPage", page);
     window->show();
+    // Without a window manager, nobody else gives it the keys.
+    window->requestActivate();
+#ifdef KELUI_HAS_GAMEPAD
+    const Gamepad gamepad;
+#endif
     return QGuiApplication::exec();
 }

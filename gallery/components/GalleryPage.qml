@@ -93,8 +93,6 @@ Item {
         case Qt.Key_Down:
             return moveFocus(0, 1);
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             activate();
             return true;
         }

@@ -19,7 +19,7 @@ Item {
 
     visible: isShown
 
-    /*! Zones with keys of their own replace this. Of keys that mean OK or Back comes Return or Back. */
+    /*! Zones with keys of their own replace this. */
     function handleKey(key: int): bool {
         return false;
     }

@@ -220,10 +220,9 @@ GalleryPage {
     }
 
     function handleKey(key: int, text: string): bool {
-        const plainKey = plain(key);
-        if (currentZone.handleKey(plainKey))
+        if (currentZone.handleKey(key))
             return true;
-        switch (plainKey) {
+        switch (key) {
         case Qt.Key_Up:
             focusZone(currentZone.above);
             return true;
@@ -238,19 +237,6 @@ GalleryPage {
             return focusZone(currentZone.back);
         }
         return false;
-    }
-
-    /*! Different remotes send different keys for OK and Back. */
-    function plain(key: int): int {
-        switch (key) {
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
-            return Qt.Key_Return;
-        case Qt.Key_Escape:
-        case Qt.Key_Backspace:
-            return Qt.Key_Back;
-        }
-        return key;
     }
 
     function focusZone(zone: HomeZone): bool {

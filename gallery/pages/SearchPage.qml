@@ -143,8 +143,6 @@ GalleryPage {
                 editField();
             return true;
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             if (focusedStop !== currentField)
                 return handleStopKey(key);
             editField();
@@ -169,12 +167,8 @@ GalleryPage {
             _navigation.moveAcrossRows(1);
             return true;
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             _keyboard.processKeyActivated(_navigation.currentIndex());
             return true;
-        case Qt.Key_Escape:
-        case Qt.Key_Backspace:
         case Qt.Key_Back:
             leaveField();
             return true;

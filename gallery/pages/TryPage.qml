@@ -49,8 +49,6 @@ GalleryPage {
             return true;
         case Qt.Key_Right:
         case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Select:
             _properties.change(index, 1);
             return true;
         }

@@ -30,6 +30,7 @@ constexpr Type types[] = {
     {"Helpers", "Generic.Helpers"},
     {"ImageColorizer", "Generic.ImageColorizer { sourceItem: _icon }"},
     {"KelGlobal", "Generic.KelGlobal"},
+    {"LargeText", "Generic.LargeText { parent: _scene; width: 100; height: 60; text: 'One\nTwo' }"},
     {"ScrollBar", "Generic.ScrollBar { parent: _scene; width: 12; height: 100; maximum: 10 }"},
     {"Text", "Generic.Text { parent: _scene; width: 100; text: 'One two' }"},
     {"TopNumber",
@@ -40,7 +41,7 @@ constexpr Type types[] = {
 //! Properties of every item that decide about what is painted, and how large. Not those that turn or scale
 //! it: Qt's software renderer takes minutes for the clip of a large item that stands aslant.
 constexpr const char *itemProperties[] = {"x", "y", "width", "height", "implicitWidth", "implicitHeight", "z",
-    "opacity", "visible", "clip", "smooth", "enabled"};
+    "opacity", "visible", "clip", "smooth", "enabled", "antialiasing", "fillColor"};
 
 constexpr int writesPerType = 30000;
 constexpr int writesPerObject = 1500;

@@ -13,7 +13,7 @@ cp "$script" "$place/checkout/run"
 
 # No Qt beside these programs, and nothing that knows of packages but the fakes.
 for tool in bash cat cut dirname env flock grep head mkdir mktemp mv readlink rm sed sha256sum sleep sort tail \
-    tar touch; do
+    tar touch tr; do
     ln -s "$(command -v $tool)" "$place/bin/$tool"
 done
 fake() { # NAME, and its text on the standard input
@@ -73,6 +73,7 @@ roots() {
 
 expect "no verb lists the verbs" prints_usage
 expect "--help lists the verbs" prints_usage --help
+expect "so does --help of a verb" prints_usage gallery --help
 for verb in gallery test bench build lint format shell clean; do
     expect "the usage names $verb" grep -q "^  $verb " "$place/out"
 done
@@ -127,7 +128,28 @@ sed -i 's/^    clang-format /    another-package &/' "$place/checkout/run"
 run env
 expect "other packages, another root" [ "$(roots | wc -w)" -gt "$(wc -w <<<"$first")" ]
 
+# Tests need more than a build, and leave the rest in use.
+made() { grep -c made "$FAKE_LOG"; }
+count=$(made)
+arguments=(gallery --web 6081 -- --page Text)
+expect "the gallery in a browser" run env
+expect "the gallery in a browser needs no other root" [ "$(made)" = "$count" ]
+expect "it can be reached from outside" grep -qx -e --share-net "$place/out"
+expect "it is given its port and its arguments" [ "$(tail -n 5 "$place/out" | tr '\n' ' ')" = \
+    "gallery/web/serve 6081 build/release/bin/kelui-gallery --page Text " ]
+arguments=(gallery --web)
+expect "a port is not needed" run env
+expect "no port is an empty argument" [ -z "$(tail -n 2 "$place/out" | head -n 1)" ]
+arguments=(test)
+expect "tests" run env
+expect "tests have a root of their own" [ "$(made)" = $((count + 1)) ]
+tests=$(echo "$XDG_CACHE_HOME"/kelui/root-*-tests)
+expect "it is whole" [ -d "$tests/usr/bin" ]
 arguments=(shell env)
+run env
+expect "what is made for tests serves for everything" grep -qxF "$tests/usr/bin" "$place/out"
+rm -rf "$place/checkout/build"
+
 for version in 6.4.2 6.9.1; do
     folder="$place/qt $version/lib/cmake/Qt6Quick"
     mkdir -p "$folder" "$folder/../Qt6"
