@@ -11,6 +11,9 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -262,8 +265,6 @@ void PropertyModel::change(int row, int steps)
 void PropertyModel::rebuild()
 {
     beginResetModel();
-    if (m_control)
-        m_control->disconnect(this);
     m_rows.clear();
     m_control = findControl(m_sample, m_typeName);
     // The engine alone has the singletons.
@@ -498,8 +499,7 @@ QVariant PropertyModel::stepped(const Row &row, int steps) const
     case Real: {
         const Range &range = rangeOf(row.name);
         const double to = std::clamp(now.toDouble() + steps * range.step, range.least, range.most);
-        // Tenths do not add up.
-        return row.kind == Integer ? QVariant(static_cast<int>(to)) : QVariant(std::round(to * 100) / 100);
+        return row.kind == Integer ? QVariant(static_cast<int>(to)) : QVariant(to);
     }
     case Choice:
     case String: {
