@@ -158,7 +158,7 @@ QColor toColor(const QVariant &value)
 }
 
 //! Only alignments have two keys at a time, and more than one name for some of them.
-QString toKeys(const QMetaEnum &keys, int value)
+QString toKeys(QMetaEnum keys, int value)
 {
     const int horizontal = value & Qt::AlignHorizontal_Mask;
     if (!keys.isFlag() || horizontal == 0 || horizontal == value)
@@ -424,7 +424,7 @@ QVariant PropertyModel::value(const Row &row)
 {
     if (row.key.isEmpty() && row.kind != List)
         return row.property.read();
-    const QVariant all = parts(row.property);
+    QVariant all = parts(row.property);
     if (row.kind == List)
         return all;
     return all.metaType() == QMetaType::fromType<QVariantMap>()
@@ -486,7 +486,7 @@ QString PropertyModel::toText(const Row &row)
 
 QVariant PropertyModel::stepped(const Row &row, int steps) const
 {
-    const QVariant now = value(row);
+    QVariant now = value(row);
     // To the next of some; what is none of them comes before the first.
     const auto next = [steps](qsizetype current, qsizetype count) {
         const qsizetype from = current < 0 && steps < 0 ? 0 : current;

@@ -280,7 +280,7 @@ void tst_controls::searchOpensPages()
 {
     open(u"Search"_s);
     press(Qt::Key_Return);
-    QObject *field = page()->property("currentField").value<QObject *>();
+    auto *field = page()->property("currentField").value<QObject *>();
     QVERIFY(field);
     field->setProperty("text", u"sPinn"_s);
     m_window->grabWindow();

@@ -25,7 +25,7 @@ Outcome runGallery(const QStringList &arguments)
     environment.remove(QStringLiteral("QML2_IMPORT_PATH"));
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(KELUI_GALLERY), arguments);
-    if (!process.waitForFinished(90'000) || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(300'000) || process.exitStatus() != QProcess::NormalExit)
         return {.exitCode = -1, .output = {}, .errors = process.errorString()};
     return {.exitCode = process.exitCode(),
         .output = QString::fromUtf8(process.readAllStandardOutput()),
