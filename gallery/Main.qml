@@ -536,7 +536,8 @@ Window {
             id: _menu
 
             readonly property int step: 48
-            readonly property int firstVisible: Math.max(0, Math.min(_window.currentIndex - 7, _window.pages.length - 10))
+            readonly property int firstVisible: Math.max(0, Math.min(_window.currentIndex - 7,
+                                                                     _window.pages.length - 10))
 
             x: _scene.menuX
             y: 148

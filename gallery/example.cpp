@@ -26,7 +26,7 @@ QString Example::fileName() const
 
 QUrl Example::url() const
 {
-    return QUrl(u"qrc:/qt/qml/Kelui/Gallery/"_s + fileName());
+    return {u"qrc:/qt/qml/Kelui/Gallery/"_s + fileName()};
 }
 
 QString Example::code() const

@@ -11,6 +11,9 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -155,7 +158,7 @@ QColor toColor(const QVariant &value)
 }
 
 //! Only alignments have two keys at a time, and more than one name for some of them.
-QString toKeys(const QMetaEnum &keys, int value)
+QString toKeys(QMetaEnum keys, int value)
 {
     const int horizontal = value & Qt::AlignHorizontal_Mask;
     if (!keys.isFlag() || horizontal == 0 || horizontal == value)
@@ -262,8 +265,6 @@ void PropertyModel::change(int row, int steps)
 void PropertyModel::rebuild()
 {
     beginResetModel();
-    if (m_control)
-        m_control->disconnect(this);
     m_rows.clear();
     m_control = findControl(m_sample, m_typeName);
     // The engine alone has the singletons.
@@ -423,7 +424,7 @@ QVariant PropertyModel::value(const Row &row)
 {
     if (row.key.isEmpty() && row.kind != List)
         return row.property.read();
-    const QVariant all = parts(row.property);
+    QVariant all = parts(row.property);
     if (row.kind == List)
         return all;
     return all.metaType() == QMetaType::fromType<QVariantMap>()
@@ -485,7 +486,7 @@ QString PropertyModel::toText(const Row &row)
 
 QVariant PropertyModel::stepped(const Row &row, int steps) const
 {
-    const QVariant now = value(row);
+    QVariant now = value(row);
     // To the next of some; what is none of them comes before the first.
     const auto next = [steps](qsizetype current, qsizetype count) {
         const qsizetype from = current < 0 && steps < 0 ? 0 : current;
@@ -498,8 +499,7 @@ QVariant PropertyModel::stepped(const Row &row, int steps) const
     case Real: {
         const Range &range = rangeOf(row.name);
         const double to = std::clamp(now.toDouble() + steps * range.step, range.least, range.most);
-        // Tenths do not add up.
-        return row.kind == Integer ? QVariant(static_cast<int>(to)) : QVariant(std::round(to * 100) / 100);
+        return row.kind == Integer ? QVariant(static_cast<int>(to)) : QVariant(to);
     }
     case Choice:
     case String: {

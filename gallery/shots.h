@@ -8,7 +8,7 @@
 class QQuickWindow;
 
 /*!
-    Takes the pictures that the pages declare, or one page by its number, and prints their paths; false, with a
-    message, on a failure.
+    Takes the pictures that the pages declare, or one page by its number, and prints their paths; false, with
+   a message, on a failure.
 */
 bool takeShots(QQuickWindow &window, const QDir &folder, std::optional<int> onlyPage);

@@ -19,7 +19,7 @@ ListView {
 
         Rectangle { anchors.fill: parent; color: "#ffc247" }
     }
-    delegate: Rectangle { width: 320; height: 54; color: "#2a3648"; opacity: 0.5 }
+    delegate: Rectangle { width: 320; height: 54; color: "transparent"; border.color: "#8593a8" }
 
     Timer {
         interval: 1000; running: true; repeat: true

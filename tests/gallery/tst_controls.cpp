@@ -64,6 +64,7 @@ private Q_SLOTS:
 private:
     void open(const QString &name, View view = Try);
     void press(Qt::Key key, int times = 1);
+    static QModelIndex row(const PropertyModel &model, const QString &name);
     bool changes(const QModelIndex &row);
     QQuickItem *page() const { return m_window->property("currentPage").value<QQuickItem *>(); }
     QQuickItem *focused() const { return page()->property("focusedStop").value<QQuickItem *>(); }
@@ -191,37 +192,42 @@ void tst_controls::everyPropertyChanges()
     m_clock->step(2000);
 }
 
+QModelIndex tst_controls::row(const PropertyModel &model, const QString &name)
+{
+    return model.match(model.index(0), PropertyModel::NameRole, name, 1, Qt::MatchExactly).value(0);
+}
+
 void tst_controls::keysStep()
 {
     open(u"Button"_s);
     press(Qt::Key_Return);
-    const QModelIndex first = model()->index(0);
+    const QModelIndex index = row(*model(), u"focused"_s);
+    QVERIFY(index.isValid());
+    press(Qt::Key_Down, index.row());
     const QObject *button = model()->control();
-    QCOMPARE(first.data(PropertyModel::NameRole), u"focused"_s);
     QVERIFY(!button->property("focused").toBool());
     for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Return, Qt::Key_Select}) {
         const bool before = button->property("focused").toBool();
         press(key);
         QCOMPARE(button->property("focused").toBool(), !before);
-        QCOMPARE(first.data(PropertyModel::ValueRole).toString(), before ? u"false" : u"true");
+        QCOMPARE(index.data(PropertyModel::ValueRole).toString(), before ? u"false" : u"true");
     }
 }
 
 void tst_controls::resetRestores()
 {
-    open(u"Button"_s);
+    open(u"Rectangle"_s);
     press(Qt::Key_Return);
-    press(Qt::Key_Down, 3);
+    const int number = row(*model(), u"roundingRadius"_s).row();
+    QVERIFY(number > 0);
+    press(Qt::Key_Down, number);
     press(Qt::Key_Right);
-    const auto duration = [this] {
-        return model()->control()->property("backgroundColorsAnimationDuration").toInt();
-    };
-    QCOMPARE(duration(), 165);
-    press(Qt::Key_Up, 4);
+    const auto radius = [this] { return model()->control()->property("roundingRadius").toInt(); };
+    QCOMPARE(radius(), 44);
+    press(Qt::Key_Up, number + 1);
     QCOMPARE(focused()->property("titleText"), u"Reset"_s);
     press(Qt::Key_Return);
-    QCOMPARE(duration(), 125);
-    // Back in the row that was left.
+    QCOMPARE(radius(), 40);
     press(Qt::Key_Down);
     QCOMPARE(focused()->property("currentIndex").toInt(), 0);
 }
@@ -275,7 +281,7 @@ void tst_controls::searchOpensPages()
 {
     open(u"Search"_s);
     press(Qt::Key_Return);
-    QObject *field = page()->property("currentField").value<QObject *>();
+    auto *field = page()->property("currentField").value<QObject *>();
     QVERIFY(field);
     field->setProperty("text", u"sPinn"_s);
     m_window->grabWindow();
@@ -283,6 +289,14 @@ void tst_controls::searchOpensPages()
     QCOMPARE(focused()->property("titleText").toString(), u"SpinnerIndicator"_s);
     press(Qt::Key_Return);
     QCOMPARE(page()->property("name").toString(), u"SpinnerIndicator"_s);
+
+    // What is found by no name leaves the form as it is.
+    open(u"Search"_s);
+    press(Qt::Key_Return);
+    page()->property("currentField").value<QObject *>()->setProperty("text", u"xyz"_s);
+    m_window->grabWindow();
+    press(Qt::Key_Right);
+    QVERIFY(!focused()->property("titleText").isValid());
 }
 
 void tst_controls::codeScrolls()
@@ -342,6 +356,8 @@ void tst_controls::rows_data()
     add(u"Button"_s, buttonMaps, u"titleColors"_s, none, {});
     add(u"Button"_s, buttonMaps, u"subtitle"_s, Kind::String, u"\"\""_s, false);
     add(u"Button"_s, buttonMaps, u"font.pixelSize"_s, none, {});
+    add(u"MediaBlock"_s, "model: 0; mediaBlockItem: ({ a: 'red', b: 'no color' })", u"mediaBlockItem.b"_s,
+        none, {});
     add(u"MainMenuButton"_s, "textColors: ['#ff0000', '#8000ff00']", u"textColors[1]"_s, Kind::Color,
         u"#8000ff00"_s);
     add(u"Icon"_s, "", u"coloringMethod"_s, Kind::Choice, u"DestinationAlpha"_s);
@@ -387,15 +403,14 @@ void tst_controls::rows()
     PropertyModel model;
     model.setTypeName(type);
     model.setSample(sample.get());
-    const QModelIndexList found =
-        model.match(model.index(0), PropertyModel::NameRole, row, -1, Qt::MatchExactly);
-    QCOMPARE(found.size(), kind < 0 ? 0 : 1);
+    const QModelIndex index = tst_controls::row(model, row);
+    QCOMPARE(index.isValid(), kind >= 0);
     if (kind < 0)
         return;
-    QCOMPARE(found.constFirst().data(PropertyModel::KindRole).toInt(), kind);
+    QCOMPARE(index.data(PropertyModel::KindRole).toInt(), kind);
     if (!value.isNull())
-        QCOMPARE(found.constFirst().data(PropertyModel::ValueRole).toString(), value);
-    QCOMPARE(found.constFirst().data(PropertyModel::WritableRole).toBool(), isWritable);
+        QCOMPARE(index.data(PropertyModel::ValueRole).toString(), value);
+    QCOMPARE(index.data(PropertyModel::WritableRole).toBool(), isWritable);
 }
 
 void tst_controls::change_data()
@@ -427,7 +442,7 @@ void tst_controls::change_data()
         {u"#0000ff"_s, u"#ff0000"_s, u"#0000ff"_s});
     add("other color forward", "Rectangle { color: 'white' }", u"color"_s, {1}, {u"#ff0000"_s});
     add("other color back", "Rectangle { color: 'white' }", u"color"_s, {-1}, {u"#0000ff"_s});
-    add("map", "MediaBlock { model: 0; mediaBlockItem: ({ a: 'white', b: '#ff0000', c: 'no color' }) }",
+    add("map", "MediaBlock { model: 0; mediaBlockItem: ({ a: 'white', b: '#ff0000' }) }",
         u"mediaBlockItem.b"_s, {1, 1}, {u"#00ff00"_s, u"#0000ff"_s});
     add("list", "MainMenuButton { textColors: ['#ff0000', '#00ff00'] }", u"textColors[1]"_s, {1, -1},
         {u"#0000ff"_s, u"#00ff00"_s});
@@ -446,13 +461,12 @@ void tst_controls::change()
     model.setPalette({Qt::red, Qt::green, Qt::blue});
     model.setSample(sample.get());
     model.setTypeName(QString::fromLatin1(code.left(code.indexOf(' '))));
-    const QModelIndexList found =
-        model.match(model.index(0), PropertyModel::NameRole, row, -1, Qt::MatchExactly);
-    QCOMPARE(found.size(), 1);
+    const QModelIndex index = tst_controls::row(model, row);
+    QVERIFY(index.isValid());
     QStringList actual;
     for (const int step : steps) {
-        model.change(found.constFirst().row(), step);
-        actual += found.constFirst().data(PropertyModel::ValueRole).toString();
+        model.change(index.row(), step);
+        actual += index.data(PropertyModel::ValueRole).toString();
     }
     QCOMPARE(actual, values);
 }
