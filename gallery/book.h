@@ -18,6 +18,7 @@ public:
     //! As many as make a megabyte of text.
     static int chapters();
 
-    //! The same text each time: all chapters, paragraphs parted by "\n". Languages: "ru"; all others are English.
+    //! The same text each time: all chapters, paragraphs parted by "\n". Languages: "ru"; all others are
+    //! English.
     Q_INVOKABLE QString text(const QString &language) const;
 };

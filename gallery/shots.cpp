@@ -32,6 +32,12 @@ bool isLoading(const QQuickItem &item)
         children.cbegin(), children.cend(), [](const QQuickItem *child) { return isLoading(*child); });
 }
 
+bool isBusy(const QQuickWindow &window)
+{
+    const auto *page = window.property("currentPage").value<QQuickItem *>();
+    return page && page->property("isBusy").toBool();
+}
+
 //! Lets everything that was posted happen, and pictures load.
 void settle(const QQuickWindow &window)
 {
@@ -43,6 +49,8 @@ void settle(const QQuickWindow &window)
         QCoreApplication::processEvents();
         // A page that has just been left is gone only after this.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (isBusy(window))
+            continue;
         if (!isLoading(*window.contentItem()))
             return;
         QThread::msleep(5);

@@ -22,7 +22,7 @@ QQT.CheckBox {
     /*! Pixels. */
     property int roundingRadius: 9
     /*! Size of the box in pixels. */
-    property size indicatorSize: "60x60"
+    property size indicatorSize: Qt.size(60, 60)
     /*! State colours of the box. */
     property var indicatorColors
     /*! Image address of the check icon, which is drawn in its own size and colours. */

@@ -14,6 +14,8 @@ Item {
     property string caption: ""
     /*! Whether the page takes the whole window while it has the keys. Beside the menu it is shown small. */
     property bool isFullScreen: false
+    /*! Whether the page still prepares what it shows, in passes of the event loop. Pictures wait for that. */
+    property bool isBusy: false
     /*! The pictures of this page. */
     property list<Shot> shots
     /*! The control in focus, or null while the menu has it. */

@@ -6,6 +6,10 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 GalleryPage {
     id: _page
 
+    /*! How often the end of the text was told: for the first screen, and for all of it. */
+    property int ends: 0
+
+    isBusy: ends < 2
     caption: qsTr("A book of a megabyte: up and down scroll, OK goes to the other end")
     shots: [
         Shot {
@@ -54,6 +58,9 @@ GalleryPage {
             color: Theme.text
             font: Theme.body
             text: Book.text(Language.code)
+
+            onTextChanged: _page.ends = 0
+            onScrollMaximumChanged: ++_page.ends
         }
 
         Generic.ScrollBar {

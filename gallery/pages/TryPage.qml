@@ -92,6 +92,7 @@ GalleryPage {
     Caption {
         x: 500
         y: 12
+        visible: _properties.count > 0
         text: qsTr("%1 of %2").arg(_list.currentIndex + 1).arg(_properties.count)
     }
 
@@ -134,6 +135,7 @@ GalleryPage {
         Component.onCompleted: _page.addStop(_list)
 
         HighlightFrame {
+            visible: _properties.count > 0
             view: _list
             focused: _page.focusedStop === _list
         }

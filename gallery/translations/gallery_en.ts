@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>BrushAreaPage</name>
+    <message>
+        <source>Areas filled with brushes that are made in C++</source>
+        <translation>Areas filled with brushes that are made in C++</translation>
+    </message>
+    <message>
+        <source>pattern: diagonals</source>
+        <translation>pattern: diagonals</translation>
+    </message>
+    <message>
+        <source>pattern: crosses</source>
+        <translation>pattern: crosses</translation>
+    </message>
+    <message>
+        <source>texture</source>
+        <translation>texture</translation>
+    </message>
+    <message>
+        <source>linear gradient</source>
+        <translation>linear gradient</translation>
+    </message>
+    <message>
+        <source>radial gradient</source>
+        <translation>radial gradient</translation>
+    </message>
+    <message>
+        <source>conical gradient</source>
+        <translation>conical gradient</translation>
+    </message>
+    <message>
+        <source>OK on a brush paints the wide area with it</source>
+        <translation>OK on a brush paints the wide area with it</translation>
+    </message>
+</context>
+<context>
     <name>BusyIndicatorPage</name>
     <message>
         <source>Looking for channels</source>
@@ -569,6 +604,25 @@
     </message>
 </context>
 <context>
+    <name>HelpersPage</name>
+    <message>
+        <source>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</source>
+        <translation>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</translation>
+    </message>
+    <message>
+        <source>the address</source>
+        <translation>the address</translation>
+    </message>
+    <message>
+        <source>made to measure: %1 × %2</source>
+        <translation>made to measure: %1 × %2</translation>
+    </message>
+    <message>
+        <source>without wishes, shown small</source>
+        <translation>without wishes, shown small</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>New this week</source>
@@ -797,6 +851,17 @@
     <message>
         <source>SPACE_KEY</source>
         <translation>Space</translation>
+    </message>
+</context>
+<context>
+    <name>LargeTextPage</name>
+    <message>
+        <source>A book of a megabyte: up and down scroll, OK goes to the other end</source>
+        <translation>A book of a megabyte: up and down scroll, OK goes to the other end</translation>
+    </message>
+    <message>
+        <source>%1 characters, offset %2 of %3</source>
+        <translation>%1 characters, offset %2 of %3</translation>
     </message>
 </context>
 <context>
@@ -1077,24 +1142,24 @@
         <translation>Code</translation>
     </message>
     <message>
-        <source>Images</source>
-        <translation>Images</translation>
+        <source>A long text that scrolls</source>
+        <translation>A long text that scrolls</translation>
     </message>
     <message>
-        <source>Vocabulary</source>
-        <translation>Vocabulary</translation>
+        <source>A number in large outlined digits</source>
+        <translation>A number in large outlined digits</translation>
     </message>
     <message>
-        <source>Lists</source>
-        <translation>Lists</translation>
+        <source>An area filled with any brush</source>
+        <translation>An area filled with any brush</translation>
     </message>
     <message>
-        <source>Grid</source>
-        <translation>Grid</translation>
+        <source>How far a view is scrolled</source>
+        <translation>How far a view is scrolled</translation>
     </message>
     <message>
-        <source>Layout</source>
-        <translation>Layout</translation>
+        <source>Addresses of pictures made to measure</source>
+        <translation>Addresses of pictures made to measure</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +1240,17 @@
     <message>
         <source>The speed of winding: left and right change it, OK plays on</source>
         <translation>The speed of winding: left and right change it, OK plays on</translation>
+    </message>
+</context>
+<context>
+    <name>ScrollBarPage</name>
+    <message>
+        <source>How far a view is scrolled: up and down scroll, OK goes to the other end</source>
+        <translation>How far a view is scrolled: up and down scroll, OK goes to the other end</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Channel %1</translation>
     </message>
 </context>
 <context>
@@ -1321,6 +1397,13 @@
     </message>
 </context>
 <context>
+    <name>TopNumberPage</name>
+    <message>
+        <source>Outlined numbers: filled, or cut out by an invalid color — OK switches</source>
+        <translation>Outlined numbers: filled, or cut out by an invalid color — OK switches</translation>
+    </message>
+</context>
+<context>
     <name>TryPage</name>
     <message>
         <source>change</source>
@@ -1344,78 +1427,6 @@
     <message>
         <source>%1Layout: %2 keys</source>
         <translation>%1Layout: %2 keys</translation>
-    </message>
-</context>
-<context>
-    <name>BrushAreaPage</name>
-    <message>
-        <source>Areas filled with brushes that are made in C++</source>
-        <translation>Areas filled with brushes that are made in C++</translation>
-    </message>
-    <message>
-        <source>pattern: diagonals</source>
-        <translation>pattern: diagonals</translation>
-    </message>
-    <message>
-        <source>pattern: crosses</source>
-        <translation>pattern: crosses</translation>
-    </message>
-    <message>
-        <source>texture</source>
-        <translation>texture</translation>
-    </message>
-    <message>
-        <source>linear gradient</source>
-        <translation>linear gradient</translation>
-    </message>
-    <message>
-        <source>radial gradient</source>
-        <translation>radial gradient</translation>
-    </message>
-    <message>
-        <source>conical gradient</source>
-        <translation>conical gradient</translation>
-    </message>
-    <message>
-        <source>OK on a brush paints the wide area with it</source>
-        <translation>OK on a brush paints the wide area with it</translation>
-    </message>
-</context>
-<context>
-    <name>HelpersPage</name>
-    <message>
-        <source>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</source>
-        <translation>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</translation>
-    </message>
-    <message>
-        <source>the address</source>
-        <translation>the address</translation>
-    </message>
-    <message>
-        <source>made to measure: %1 × %2</source>
-        <translation>made to measure: %1 × %2</translation>
-    </message>
-    <message>
-        <source>without wishes, shown small</source>
-        <translation>without wishes, shown small</translation>
-    </message>
-</context>
-<context>
-    <name>ScrollBarPage</name>
-    <message>
-        <source>How far a view is scrolled: up and down scroll, OK goes to the other end</source>
-        <translation>How far a view is scrolled: up and down scroll, OK goes to the other end</translation>
-    </message>
-    <message>
-        <source>Channel %1</source>
-        <translation>Channel %1</translation>
-    </message>
-</context>
-<context>
-    <name>TopNumberPage</name>
-    <message>
-        <source>Outlined numbers: filled, or cut out by an invalid color — OK switches</source>
-        <translation>Outlined numbers: filled, or cut out by an invalid color — OK switches</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>BrushAreaPage</name>
+    <message>
+        <source>Areas filled with brushes that are made in C++</source>
+        <translation>Области, залитые кистями из C++</translation>
+    </message>
+    <message>
+        <source>pattern: diagonals</source>
+        <translation>узор: штриховка</translation>
+    </message>
+    <message>
+        <source>pattern: crosses</source>
+        <translation>узор: клетка</translation>
+    </message>
+    <message>
+        <source>texture</source>
+        <translation>текстура</translation>
+    </message>
+    <message>
+        <source>linear gradient</source>
+        <translation>линейный градиент</translation>
+    </message>
+    <message>
+        <source>radial gradient</source>
+        <translation>радиальный градиент</translation>
+    </message>
+    <message>
+        <source>conical gradient</source>
+        <translation>конический градиент</translation>
+    </message>
+    <message>
+        <source>OK on a brush paints the wide area with it</source>
+        <translation>OK на кисти заливает ею широкую область</translation>
+    </message>
+</context>
+<context>
     <name>BusyIndicatorPage</name>
     <message>
         <source>Looking for channels</source>
@@ -569,6 +604,25 @@
     </message>
 </context>
 <context>
+    <name>HelpersPage</name>
+    <message>
+        <source>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</source>
+        <translation>Helpers.imageUrl пишет в адрес, какая картинка нужна; такой её и отдают</translation>
+    </message>
+    <message>
+        <source>the address</source>
+        <translation>адрес</translation>
+    </message>
+    <message>
+        <source>made to measure: %1 × %2</source>
+        <translation>по мерке: %1 × %2</translation>
+    </message>
+    <message>
+        <source>without wishes, shown small</source>
+        <translation>без пожеланий, показана мельче</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>New this week</source>
@@ -797,6 +851,17 @@
     <message>
         <source>SPACE_KEY</source>
         <translation>Пробел</translation>
+    </message>
+</context>
+<context>
+    <name>LargeTextPage</name>
+    <message>
+        <source>A book of a megabyte: up and down scroll, OK goes to the other end</source>
+        <translation>Книга в мегабайт: вверх и вниз — прокрутка, OK — к другому концу</translation>
+    </message>
+    <message>
+        <source>%1 characters, offset %2 of %3</source>
+        <translation>Символов: %1, offset %2 из %3</translation>
     </message>
 </context>
 <context>
@@ -1077,24 +1142,24 @@
         <translation>Код</translation>
     </message>
     <message>
-        <source>Images</source>
-        <translation>Картинки</translation>
+        <source>A long text that scrolls</source>
+        <translation>Длинный текст с прокруткой</translation>
     </message>
     <message>
-        <source>Vocabulary</source>
-        <translation>Словарь</translation>
+        <source>A number in large outlined digits</source>
+        <translation>Число крупными контурными цифрами</translation>
     </message>
     <message>
-        <source>Lists</source>
-        <translation>Списки</translation>
+        <source>An area filled with any brush</source>
+        <translation>Область, залитая любой кистью</translation>
     </message>
     <message>
-        <source>Grid</source>
-        <translation>Сетка</translation>
+        <source>How far a view is scrolled</source>
+        <translation>Насколько прокручен список или текст</translation>
     </message>
     <message>
-        <source>Layout</source>
-        <translation>Раскладка</translation>
+        <source>Addresses of pictures made to measure</source>
+        <translation>Адреса картинок нужного размера</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +1240,17 @@
     <message>
         <source>The speed of winding: left and right change it, OK plays on</source>
         <translation>Скорость перемотки: влево и вправо меняют её, OK — обычная</translation>
+    </message>
+</context>
+<context>
+    <name>ScrollBarPage</name>
+    <message>
+        <source>How far a view is scrolled: up and down scroll, OK goes to the other end</source>
+        <translation>Докуда прокручен список: вверх и вниз — прокрутка, OK — в другой конец</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Канал %1</translation>
     </message>
 </context>
 <context>
@@ -1321,6 +1397,13 @@
     </message>
 </context>
 <context>
+    <name>TopNumberPage</name>
+    <message>
+        <source>Outlined numbers: filled, or cut out by an invalid color — OK switches</source>
+        <translation>Числа с контуром: залитые или вырезанные цветом без значения; OK меняет</translation>
+    </message>
+</context>
+<context>
     <name>TryPage</name>
     <message>
         <source>change</source>
@@ -1344,78 +1427,6 @@
     <message>
         <source>%1Layout: %2 keys</source>
         <translation>%1Layout, клавиш: %2</translation>
-    </message>
-</context>
-<context>
-    <name>BrushAreaPage</name>
-    <message>
-        <source>Areas filled with brushes that are made in C++</source>
-        <translation>Области, залитые кистями из C++</translation>
-    </message>
-    <message>
-        <source>pattern: diagonals</source>
-        <translation>узор: штриховка</translation>
-    </message>
-    <message>
-        <source>pattern: crosses</source>
-        <translation>узор: клетка</translation>
-    </message>
-    <message>
-        <source>texture</source>
-        <translation>текстура</translation>
-    </message>
-    <message>
-        <source>linear gradient</source>
-        <translation>линейный градиент</translation>
-    </message>
-    <message>
-        <source>radial gradient</source>
-        <translation>радиальный градиент</translation>
-    </message>
-    <message>
-        <source>conical gradient</source>
-        <translation>конический градиент</translation>
-    </message>
-    <message>
-        <source>OK on a brush paints the wide area with it</source>
-        <translation>OK на кисти заливает ею широкую область</translation>
-    </message>
-</context>
-<context>
-    <name>HelpersPage</name>
-    <message>
-        <source>Helpers.imageUrl tells in the address how a picture is wanted; a source makes it so</source>
-        <translation>Helpers.imageUrl пишет в адрес, какая картинка нужна; такой её и отдают</translation>
-    </message>
-    <message>
-        <source>the address</source>
-        <translation>адрес</translation>
-    </message>
-    <message>
-        <source>made to measure: %1 × %2</source>
-        <translation>по мерке: %1 × %2</translation>
-    </message>
-    <message>
-        <source>without wishes, shown small</source>
-        <translation>без пожеланий, показана мельче</translation>
-    </message>
-</context>
-<context>
-    <name>ScrollBarPage</name>
-    <message>
-        <source>How far a view is scrolled: up and down scroll, OK goes to the other end</source>
-        <translation>Докуда прокручен список: вверх и вниз — прокрутка, OK — в другой конец</translation>
-    </message>
-    <message>
-        <source>Channel %1</source>
-        <translation>Канал %1</translation>
-    </message>
-</context>
-<context>
-    <name>TopNumberPage</name>
-    <message>
-        <source>Outlined numbers: filled, or cut out by an invalid color — OK switches</source>
-        <translation>Числа с контуром: залитые или вырезанные цветом без значения; OK меняет</translation>
     </message>
 </context>
 </TS>

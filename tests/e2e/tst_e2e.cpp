@@ -358,14 +358,14 @@ void tst_e2e::walk()
         QStringList keys;
     } stops[] = {
         {"start", {}},
-        {"search", keys(u"Down*7"_s)},
+        {"search", keys(u"Down*2"_s)},
         {"editing", keys(u"Return*2"_s)},
         {"russian", typist.type(u"кино")},
         {"english", typist.switchLayout()},
         {"both", typist.type(u"live24")},
         {"translated", keys(u"F4"_s)},
         {"back", keys(u"Escape*2"_s)},
-        {"start", keys(u"F4 Up*7"_s)},
+        {"start", keys(u"F4 Up*2"_s)},
     };
     for (const auto &stop : stops) {
         QVERIFY(stop.keys.isEmpty() || viewer->press(stop.keys));
