@@ -6,7 +6,7 @@
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/QSGRendererInterface>
 
-#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -47,8 +47,9 @@ bool KelFrameNode::update(QSGNode *&node, const QQuickPaintedItem &item, const P
         api == QSGRendererInterface::Software && hasDefaultRenderSettings(item) && (!node || isFrameNode);
     // Sides in whole pixels, as those of a picture; larger than any screen, they change nothing.
     constexpr qreal longest = 1 << 24;
-    const QSize size(
-        qRound(std::clamp(item.width(), 0.0, longest)), qRound(std::clamp(item.height(), 0.0, longest)));
+    // Of a number and NaN, these take the number.
+    const auto bounded = [](qreal side) { return std::fmin(std::fmax(side, 0.0), longest); };
+    const QSize size(qRound(bounded(item.width())), qRound(bounded(item.height())));
     if (isFrameNode && (!isPossible || size.isEmpty())) {
         delete node;
         node = nullptr;
