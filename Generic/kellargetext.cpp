@@ -2,6 +2,8 @@
 #include "kellargetext.h"
 #include "kellargetext_p.h"
 
+#include <QtCore/QPointer>
+#include <QtCore/QThread>
 #include <QtGui/QFontInfo>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
@@ -387,8 +389,10 @@ void KelLargeTextPrivate::setLineBreak(const QString &lineBreak)
         resetStaticTexts();
 }
 
-void KelLargeTextPrivate::draw(QPainter &painter)
+void KelLargeTextPrivate::draw(QPainter &painter, const QColor &color)
 {
+    painter.setPen(color);
+    painter.setFont(font);
     const int bottom = viewportHeight();
     const qsizetype first = m_rounded.countWithin(offset);
     qint64 y = m_rounded.sum(first) - offset;
@@ -543,9 +547,7 @@ void KelLargeText::scrollToDirection(int direction)
 
 void KelLargeText::paint(QPainter *painter)
 {
-    painter->setPen(d->color);
-    painter->setFont(d->font);
-    d->draw(*painter);
+    d->draw(*painter, d->color);
 }
 
 QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
@@ -553,7 +555,14 @@ QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *da
     QSGNode *node = oldNode;
     // Without the limit for pictures an item as high as its text would paint all of it.
     if (KelPicture::canKeep(*this)) {
-        if (KelFrameNode::update(node, *this, [this](QPainter &painter) { paint(&painter); }))
+        // The frame is painted later than this, and in parts where something else repaints: all in one
+        // colour.
+        const auto paint = [item = QPointer(this), color = d->color](QPainter &painter) {
+            if (item)
+                item->d->draw(painter, color);
+        };
+        // A thread that renders would read the item while its own thread changes it.
+        if (thread() == QThread::currentThread() && KelFrameNode::update(node, *this, paint))
             return node;
         return QQuickPaintedItem::updatePaintNode(node, data);
     }

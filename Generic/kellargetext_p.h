@@ -93,7 +93,7 @@ public:
     //! Whether the pieces up to this one reach the bottom of the item.
     bool fillsViewport(qsizetype index) const;
     void publishScrollMaximum();
-    void draw(QPainter &painter);
+    void draw(QPainter &painter, const QColor &color);
 
     KelLargeText *const q;
     QString text;

@@ -628,6 +628,7 @@ private Q_SLOTS:
     void paintsFromTheOffsetOn();
     void keepsWhatIsNearTheView();
     void windowShowsWhatIsPainted();
+    void colorWaitsWhereAnotherItemRepaints();
     void sizesThatShowNothing_data();
     void sizesThatShowNothing();
 
@@ -1133,6 +1134,28 @@ void tst_LargeText::windowShowsWhatIsPainted()
     QCOMPARE(shown(), black);
     item.scrollToDirection(1);
     QCOMPARE(shown(), expected());
+}
+
+void tst_LargeText::colorWaitsWhereAnotherItemRepaints()
+{
+    QQuickWindow window;
+    window.setColor(Qt::white);
+    window.resize(200, 100);
+    LargeText item(200, 100);
+    item.setParentItem(window.contentItem());
+    item.setText(lines(50));
+    LargeText above(30, 50);
+    above.setParentItem(window.contentItem());
+    above.setText(u" "_s);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    const QImage black = window.grabWindow();
+    item.setColor(Qt::red);
+    above.update();
+    QCOMPARE(window.grabWindow(), black);
+    item.update();
+    QCOMPARE_NE(window.grabWindow(), black);
 }
 
 void tst_LargeText::sizesThatShowNothing_data()
