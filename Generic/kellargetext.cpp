@@ -389,24 +389,30 @@ void KelLargeTextPrivate::setLineBreak(const QString &lineBreak)
         resetStaticTexts();
 }
 
-void KelLargeTextPrivate::draw(QPainter &painter, const QColor &color)
+void KelLargeTextPrivate::draw(QPainter &painter, const QColor &color, Places &places)
 {
     painter.setPen(color);
     painter.setFont(font);
     const int bottom = viewportHeight();
-    const qsizetype first = m_rounded.countWithin(offset);
-    qint64 y = m_rounded.sum(first) - offset;
+    if (places.heights.empty()) {
+        places.first = m_rounded.countWithin(offset);
+        places.top = m_rounded.sum(places.first) - offset;
+    }
+    const qsizetype first = places.first;
+    qint64 y = places.top;
     qsizetype index = first;
     for (; index < count() && y < bottom; ++index) {
         const Piece &piece = pieces[size_t(index)];
-        const int height = rounded(piece.height);
+        const auto place = size_t(index - first);
+        if (place == places.heights.size())
+            places.heights.push_back(rounded(piece.height));
         if (piece.size > 0) {
             QStaticText &drawn = staticText(index);
             painter.drawStaticText(QPointF(0, double(y)), drawn);
             // It has taken the painter's font.
             setHeight(index, drawn.size().height());
         }
-        y += height;
+        y += places.heights[place];
     }
     const qsizetype kept = 3 * (index - first);
     forgetAllBut(first - kept, index + kept);
@@ -547,7 +553,8 @@ void KelLargeText::scrollToDirection(int direction)
 
 void KelLargeText::paint(QPainter *painter)
 {
-    d->draw(*painter, d->color);
+    KelLargeTextPrivate::Places places;
+    d->draw(*painter, d->color, places);
 }
 
 QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
@@ -555,11 +562,11 @@ QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *da
     QSGNode *node = oldNode;
     // Without the limit for pictures an item as high as its text would paint all of it.
     if (KelPicture::canKeep(*this)) {
-        // The frame is painted later than this, and in parts where something else repaints: all in one
-        // colour.
-        const auto paint = [item = QPointer(this), color = d->color](QPainter &painter) {
+        // The frame is painted later than this, and in parts where something else repaints: all alike.
+        const auto paint = [item = QPointer(this), color = d->color, places = KelLargeTextPrivate::Places()](
+                               QPainter &painter) mutable {
             if (item)
-                item->d->draw(painter, color);
+                item->d->draw(painter, color, places);
         };
         // A thread that renders would read the item while its own thread changes it.
         if (thread() == QThread::currentThread() && KelFrameNode::update(node, *this, paint))

@@ -77,6 +77,14 @@ public:
         bool isPrepared = false;
     };
 
+    //! Where pieces were drawn. Drawing may change their heights, for the next repaint only.
+    struct Places
+    {
+        qsizetype first = 0;
+        qint64 top = 0;
+        std::vector<int> heights;
+    };
+
     explicit KelLargeTextPrivate(KelLargeText *item);
     static KelLargeTextPrivate *get(KelLargeText *item);
 
@@ -93,7 +101,8 @@ public:
     //! Whether the pieces up to this one reach the bottom of the item.
     bool fillsViewport(qsizetype index) const;
     void publishScrollMaximum();
-    void draw(QPainter &painter, const QColor &color);
+    //! Fills empty places, and keeps to others.
+    void draw(QPainter &painter, const QColor &color, Places &places);
 
     KelLargeText *const q;
     QString text;

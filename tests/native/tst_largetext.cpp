@@ -629,6 +629,7 @@ private Q_SLOTS:
     void keepsWhatIsNearTheView();
     void windowShowsWhatIsPainted();
     void colorWaitsWhereAnotherItemRepaints();
+    void heightsWaitWhereAnotherItemRepaints();
     void sizesThatShowNothing_data();
     void sizesThatShowNothing();
 
@@ -1156,6 +1157,29 @@ void tst_LargeText::colorWaitsWhereAnotherItemRepaints()
     QCOMPARE(window.grabWindow(), black);
     item.update();
     QCOMPARE_NE(window.grabWindow(), black);
+}
+
+void tst_LargeText::heightsWaitWhereAnotherItemRepaints()
+{
+    QQuickWindow window;
+    window.setColor(Qt::white);
+    window.resize(200, 100);
+    LargeText item(200, 100);
+    item.setParentItem(window.contentItem());
+    item.setText(lines(50));
+    LargeText above(30, 100);
+    above.setParentItem(window.contentItem());
+    above.setText(u" "_s);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QImage small = window.grabWindow();
+    item.setFont(fontOf(40));
+    const QImage first = window.grabWindow();
+    QCOMPARE_NE(first, small);
+    above.update();
+    QCOMPARE(window.grabWindow(), first);
+    item.update();
+    QCOMPARE_NE(window.grabWindow(), first);
 }
 
 void tst_LargeText::sizesThatShowNothing_data()
