@@ -15,7 +15,7 @@ QQT.CheckBox {
     /*! Set by the application's own focus logic; selects the "focused" colours. */
     property bool focused: false
     /*! The box alone, for a focus frame around it. */
-    readonly property alias frameSourceItem: _indicator
+    readonly property Item frameSourceItem: _indicator
 
     /*! Round the corners of the box by roundingRadius. */
     property alias forceRounding: _indicator.forceRounding

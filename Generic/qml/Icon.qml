@@ -15,7 +15,7 @@ QQT.Control {
     */
     property bool colorizeOnTransparent: true
     /*! The colour of the icon. The default hides the icon: give it a colour, or clear colorizeOnTransparent. */
-    property alias iconColor: _colorizer.color
+    property color iconColor: "transparent"
     /*! ImageColorizer.DestinationAlpha (the colour's alpha counts) or ImageColorizer.SourceAlpha. */
     property int coloringMethod: 1 // ImageColorizer.DestinationAlpha
     /*! Corner radius in pixels; accepted, not drawn without OpenGL. */
@@ -37,12 +37,10 @@ QQT.Control {
         source: _icon.source
 
         KELUIQCG.ImageColorizer {
-            id: _colorizer
-
             sourceItem: _contentItem
-            color: "transparent"
+            color: _icon.iconColor
             coloringMethod: _icon.coloringMethod
-            enabled: _icon.colorizeOnTransparent || !Qt.colorEqual(color, "transparent")
+            enabled: _icon.colorizeOnTransparent || !Qt.colorEqual(_icon.iconColor, "transparent")
         }
     }
 
