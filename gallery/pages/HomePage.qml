@@ -189,8 +189,19 @@ GalleryPage {
         },
         Shot {
             name: "Home-details"
+            time: 200
 
             onTaken: _page.showDetails([Qt.Key_Right, Qt.Key_Right, Qt.Key_Return])
+        },
+        Shot {
+            name: "Home-story"
+            // While the lines of the story are wrapped.
+            time: 200
+
+            onTaken: {
+                _page.showDetails([Qt.Key_Right, Qt.Key_Return]);
+                _page.press([Qt.Key_Down]);
+            }
         },
         Shot {
             name: "Home-rewind"
@@ -317,7 +328,7 @@ GalleryPage {
                 }
                 GradientStop {
                     position: 1
-                    color: "#000d121a"
+                    color: HomeTheme.clearShade
                 }
             }
         }
@@ -352,9 +363,9 @@ GalleryPage {
             id: _home
 
             page: _page
-            y: 402
+            y: 388
             width: 1280
-            height: 318
+            height: 332
             isShown: _menu.section === 0
             shelf: _page.homeShelf
             above: _menu
