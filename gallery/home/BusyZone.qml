@@ -24,7 +24,7 @@ HomeZone {
     }
 
     function strip(name: string): string {
-        return String(Generic.Helpers.imageUrl(PictureSource.address(name), 0, 96 * HomeTheme.pixelRatio, false, true));
+        return String(Generic.Helpers.imageUrl(PictureSource.address(name), 0, 120 * HomeTheme.pixelRatio, false, true));
     }
 
     Timer {

@@ -84,7 +84,7 @@ HomeZone {
 
             focused: _zone.isActive && _zone.focusedItem === _watch
             titleText: FilmCatalogue.progress(_zone.film) > 0 ? qsTr("Continue") : qsTr("Watch")
-            leftIconSource: Theme.icon("play")
+            leftIconSource: HomeTheme.icon("play", 28)
 
             onClicked: _zone.played(false)
         }
@@ -105,7 +105,7 @@ HomeZone {
             fixedSize: Qt.size(260, 64)
             focused: _zone.isActive && _zone.focusedItem === _favourite
             titleText: _zone.favourites.includes(_zone.film) ? qsTr("In my list") : qsTr("To my list")
-            leftIconSource: Theme.icon(_zone.favourites.includes(_zone.film) ? "check" : "heart")
+            leftIconSource: HomeTheme.icon(_zone.favourites.includes(_zone.film) ? "check" : "heart", 28)
 
             onClicked: _zone.toggleFavourite()
         }

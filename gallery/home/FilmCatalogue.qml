@@ -24,6 +24,7 @@ QtObject {
                         + "maps. When the radio of the last village falls silent, they set out together, because "
                         + "neither would let the other go first. For nine nights the sky stays black. On the tenth the "
                         + "dogs stop, the snow begins to hum, and the sisters must decide whose map was right.")
+            alignment: Image.AlignRight
         },
         Film {
             picture: "lighthouse"

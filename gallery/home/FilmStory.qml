@@ -20,7 +20,7 @@ Item {
 
     /*! Towards the end where the step is positive; false at an end. */
     function scroll(step: int): bool {
-        const next = Math.max(0, Math.min(target + step * 3 * lineHeight, _bar.maximum));
+        const next = Math.max(0, Math.min(target + step * 3 * lineHeight, _text.scrollMaximum));
         if (next === target)
             return false;
         target = next;
@@ -70,8 +70,9 @@ Item {
         y: _text.y
         width: 8
         height: _text.height
-        maximum: Math.max(0, _text.scrollMaximum)
-        sliderPosition: Math.min(maximum, _story.position)
+        // What the slider leaves free of the track: its length is the share of the text that is seen.
+        maximum: Math.max(0, height * _text.scrollMaximum / (height + _text.scrollMaximum))
+        sliderPosition: Math.min(maximum, _story.position * maximum / Math.max(1, _text.scrollMaximum))
         backgroundColor: Theme.raised
         sliderColor: _story.focused ? Theme.accent : Theme.secondaryText
     }

@@ -34,7 +34,6 @@ Item {
     Loader {
         id: _rank
 
-        x: HomeTheme.framePadding
         y: HomeTheme.framePadding + _tile.pictureSize.height - height
         active: _tile.isRanked
         sourceComponent: Generic.TopNumber {
@@ -52,7 +51,7 @@ Item {
         id: _picture
 
         // The number reaches behind the picture.
-        x: HomeTheme.framePadding + (_tile.isRanked ? _rank.width - 22 : 0)
+        x: HomeTheme.framePadding + (_tile.isRanked ? _rank.width - 30 : 0)
         y: HomeTheme.framePadding
         width: _tile.pictureSize.width
         height: _tile.pictureSize.height

@@ -3,6 +3,7 @@ pragma Singleton
 
 import QtQuick
 import Kelui.Gallery
+import Kelui.UI.Qml.Controls.Generic as Generic
 
 /*! Sizes and type of the home screen, which is read from the sofa, and what its settings change. */
 QtObject {
@@ -53,6 +54,12 @@ QtObject {
 
     function contentFont(pixelSize: int, weight: int): font {
         return Theme.sizedFont(isTextLarge ? pixelSize * 1.2 : pixelSize, weight);
+    }
+
+    /*! An icon made for that place on the screen. */
+    function icon(name: string, side: real): string {
+        return String(Generic.Helpers.imageUrl(PictureSource.address("icons/" + name), side * pixelRatio,
+                                               side * pixelRatio, false, true));
     }
 
     /*! For what is drawn in the pixels of the window, and shown scaled down by pixelRatio. */

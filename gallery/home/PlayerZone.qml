@@ -181,6 +181,6 @@ HomeZone {
         leftPadding: 0
         rightPadding: 0
         spacing: 0
-        leftIconSource: Theme.icon(_zone.isPaused || _zone.speed !== 1 ? "play" : "pause")
+        leftIconSource: HomeTheme.icon(_zone.isPaused || _zone.speed !== 1 ? "play" : "pause", 28)
     }
 }

@@ -204,7 +204,19 @@ GalleryPage {
             }
         },
         Shot {
+            name: "Home-story-ru"
+            language: "ru"
+            time: 200
+
+            onTaken: {
+                _page.showDetails([Qt.Key_Right, Qt.Key_Return]);
+                _page.press([Qt.Key_Down]);
+            }
+        },
+        Shot {
             name: "Home-rewind"
+            // To the first of the arrows that is lit.
+            time: 130
 
             onTaken: {
                 _page.showDetails([Qt.Key_Right, Qt.Key_Right, Qt.Key_Right, Qt.Key_Return]);
@@ -379,7 +391,7 @@ GalleryPage {
 
             page: _page
             x: HomeTheme.sideMargin
-            y: 124
+            y: 112
             isShown: _menu.section === 1
             shelves: _page.filmShelves
             above: _menu
@@ -391,9 +403,9 @@ GalleryPage {
             id: _films
 
             page: _page
-            y: 206
+            y: 176
             width: 1280
-            height: 514
+            height: 544
             isShown: _menu.section === 1
             shelf: _page.filmShelves[_tabs.openIndex]
             above: _tabs
