@@ -77,11 +77,12 @@ HomeZone {
     Row {
         x: HomeTheme.sideMargin
         y: 300
-        spacing: 20
+        spacing: 16
 
         HomeButton {
             id: _watch
 
+            fixedSize: Qt.size(240, 64)
             focused: _zone.isActive && _zone.focusedItem === _watch
             titleText: FilmCatalogue.progress(_zone.film) > 0 ? qsTr("Continue") : qsTr("Watch")
             leftIconSource: HomeTheme.icon("play", 28)
@@ -92,7 +93,7 @@ HomeZone {
         HomeButton {
             id: _restart
 
-            fixedSize: Qt.size(300, 64)
+            fixedSize: Qt.size(268, 64)
             focused: _zone.isActive && _zone.focusedItem === _restart
             titleText: qsTr("From the beginning")
 

@@ -84,7 +84,7 @@ Item {
         id: _title
 
         x: HomeTheme.framePadding
-        y: _tile.pictureSize.height + HomeTheme.framePadding * 2 + 2
+        y: _tile.pictureSize.height + HomeTheme.framePadding * 2 + 4
         width: _tile.pictureSize.width
         maximumLineCount: 1
         visible: _tile.hasTitle

@@ -209,7 +209,7 @@ GalleryPage {
             time: 200
 
             onTaken: {
-                _page.showDetails([Qt.Key_Right, Qt.Key_Return]);
+                _page.showDetails([Qt.Key_Down, Qt.Key_Return]);
                 _page.press([Qt.Key_Down]);
             }
         },
