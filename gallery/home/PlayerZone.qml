@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kelui.Gallery
 import Kelui.UI.Qml.Controls.Generic as Generic

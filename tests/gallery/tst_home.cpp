@@ -73,6 +73,8 @@ private Q_SLOTS:
     void placesAreNumbered();
     void picturesAreSharp_data();
     void picturesAreSharp();
+    void restsWhereNothingMoves_data();
+    void restsWhereNothingMoves();
     void speedChanges_data();
     void speedChanges();
     void filmEnds();
@@ -556,7 +558,7 @@ void tst_home::picturesAreSharp()
 {
     QFETCH(const QSize, size);
     m_window->resize(size);
-    QTRY_COMPARE(m_window->size(), size);
+    QTRY_COMPARE(theme("HomeTheme")->property("pixelRatio").toReal(), size.height() / 720.0);
     settle();
     const auto check = [this] {
         int pictures = 0;
@@ -582,6 +584,53 @@ void tst_home::picturesAreSharp()
     QVERIFY(check() > 2);
     openSection(2);
     QVERIFY(check() > 15);
+}
+
+void tst_home::restsWhereNothingMoves_data()
+{
+    QTest::addColumn<int>("section");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<bool>("isMoving");
+    const int down = Qt::Key_Down;
+    const int chosen = Qt::Key_Return;
+    QTest::newRow("rows") << 0 << QList<int>{down, down} << false;
+    QTest::newRow("tabs") << 1 << QList<int>{} << false;
+    QTest::newRow("grid") << 2 << QList<int>{down, down, down} << false;
+    QTest::newRow("settings") << 3 << QList<int>{} << false;
+    QTest::newRow("wait") << 0 << QList<int>{chosen} << true;
+    QTest::newRow("details") << 0 << QList<int>{chosen, 0} << false;
+    QTest::newRow("story") << 0 << QList<int>{chosen, 0, down, down} << false;
+    QTest::newRow("player") << 0 << QList<int>{chosen, 0, chosen} << true;
+    QTest::newRow("pause") << 0 << QList<int>{chosen, 0, chosen, chosen} << false;
+}
+
+//! A frame is drawn for what changes, and for nothing else. Between the keys, 0 is the wait for a film.
+void tst_home::restsWhereNothingMoves()
+{
+    QFETCH(const int, section);
+    QFETCH(const QList<int>, keys);
+    QFETCH(const bool, isMoving);
+    openSection(section);
+    for (const int key : keys) {
+        if (key == 0)
+            pass(2000);
+        else
+            press(key);
+    }
+    int frames = 0;
+    connect(m_window, &QQuickWindow::afterRendering, this, [&frames] { ++frames; });
+    const auto framesDrawn = [&](int times) {
+        frames = 0;
+        for (int i = 0; i < times; ++i) {
+            pass(50);
+            QTest::qWait(5);
+        }
+        return frames;
+    };
+    if (!isMoving)
+        QTRY_COMPARE(framesDrawn(4), 0);
+    QCOMPARE(framesDrawn(20) > 0, isMoving);
+    m_window->disconnect(this);
 }
 
 void tst_home::speedChanges_data()
