@@ -37,9 +37,7 @@ double contrast(const QColor &one, const QColor &other)
 QColor over(const QColor &color, const QColor &below)
 {
     const double alpha = color.alphaF();
-    const auto mix = [alpha](float upper, float lower) {
-        return float(upper * alpha + lower * (1 - alpha));
-    };
+    const auto mix = [alpha](float upper, float lower) { return float(upper * alpha + lower * (1 - alpha)); };
     return QColor::fromRgbF(mix(color.redF(), below.redF()), mix(color.greenF(), below.greenF()),
         mix(color.blueF(), below.blueF()));
 }
@@ -134,7 +132,8 @@ void tst_contrast::colors_data()
             add(texts + u'.' + QLatin1String(state), backgrounds + u'.' + QLatin1String(state));
     }
     for (const auto *state : {"normal", "selected"}) {
-        add(u"Theme.fieldTexts."_s + QLatin1String(state), u"Theme.fieldBackgrounds."_s + QLatin1String(state));
+        add(u"Theme.fieldTexts."_s + QLatin1String(state),
+            u"Theme.fieldBackgrounds."_s + QLatin1String(state));
         add(u"Theme.fieldPlaceholders."_s + QLatin1String(state),
             u"Theme.fieldBackgrounds."_s + QLatin1String(state));
     }
@@ -182,7 +181,8 @@ void tst_contrast::sizes_data()
             if (property.metaType() != QMetaType::fromType<QFont>())
                 continue;
             // Names of keys, and code that is to be compared rather than read from the sofa.
-            const bool isSmall = qstrcmp(property.name(), "hint") == 0 || qstrcmp(property.name(), "code") == 0;
+            const bool isSmall =
+                qstrcmp(property.name(), "hint") == 0 || qstrcmp(property.name(), "code") == 0;
             QTest::addRow("%s.%s", name, property.name())
                 << property.read(object).value<QFont>() << (isSmall ? caption : text);
         }

@@ -584,6 +584,8 @@ void tst_home::picturesAreSharp()
     QVERIFY(check() > 2);
     openSection(2);
     QVERIFY(check() > 15);
+    openSection(3);
+    QVERIFY(check() > 5);
 }
 
 void tst_home::restsWhereNothingMoves_data()
