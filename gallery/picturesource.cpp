@@ -46,7 +46,10 @@ public:
     QImage requestImage(const QString &id, QSize *size, const QSize & /*requestedSize*/) override
     {
         const QUrlQuery query(id.section(u'?', 1));
-        QImageReader reader(u":/qt/qml/Kelui/Gallery/assets/pictures/%1.svg"_s.arg(id.section(u'?', 0, 0)));
+        QString name = id.section(u'?', 0, 0);
+        if (!name.contains(u'/'))
+            name.prepend("pictures/"_L1);
+        QImageReader reader(u":/qt/qml/Kelui/Gallery/assets/%1.svg"_s.arg(name));
         reader.setScaledSize(measure(reader.size(), query));
         QImage picture = reader.read();
         if (query.queryItemValue(u"borderless"_s) != "true"_L1)

@@ -23,6 +23,7 @@ public:
     explicit PictureSource(QQmlEngine *engine);
     static PictureSource *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
-    //! The address of one of the gallery's pictures, as it is without wishes.
+    //! The address of one of the gallery's pictures, as it is without wishes; "icons/name" is one of its
+    //! icons.
     Q_INVOKABLE static QUrl address(const QString &name);
 };

@@ -7,6 +7,8 @@
 #include <QtCore/QThread>
 #include <QtGui/QImage>
 #include <QtGui/QKeyEvent>
+#include <QtQml/QQmlEngine>
+#include <QtQml/QQmlIncubationController>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
@@ -35,7 +37,11 @@ bool isLoading(const QQuickItem &item)
 bool isBusy(const QQuickWindow &window)
 {
     const auto *page = window.property("currentPage").value<QQuickItem *>();
-    return page && page->property("isBusy").toBool();
+    if (page && page->property("isBusy").toBool())
+        return true;
+    // A view still makes items; an engine must not end before it has.
+    const QQmlIncubationController *controller = qmlEngine(&window)->incubationController();
+    return controller && controller->incubatingObjectCount() > 0;
 }
 
 //! Lets everything that was posted happen, and pictures load.

@@ -23,6 +23,10 @@ HomeZone {
         return true;
     }
 
+    function strip(name: string): string {
+        return String(Generic.Helpers.imageUrl(PictureSource.address(name), 0, 120 * HomeTheme.pixelRatio, false, true));
+    }
+
     Timer {
         interval: 1500
         running: _zone.isActive
@@ -40,21 +44,29 @@ HomeZone {
         color: HomeTheme.shade
     }
 
-    Generic.BusyIndicator {
-        anchors.centerIn: parent
-        imageRight: Theme.icon("busy-first")
-        imageLeft: Theme.icon("busy-second")
-        animationInterval: 80
-        header: FilmCatalogue.title(_zone.film)
-        headerFont: HomeTheme.title
-        headerColor: Theme.text
-        headerLeftMargin: HomeTheme.sideMargin
-        headerRightMargin: HomeTheme.sideMargin
-        description: qsTr("One moment, the film is being prepared")
-        descriptionFont: HomeTheme.description
-        descriptionColor: Theme.secondaryText
-        descriptionLeftMargin: HomeTheme.sideMargin
-        descriptionRightMargin: HomeTheme.sideMargin
+    // The frames of a strip are shown as large as they are: here, in pixels of the window.
+    Item {
+        width: _zone.width * HomeTheme.pixelRatio
+        height: _zone.height * HomeTheme.pixelRatio
+        transformOrigin: Item.TopLeft
+        scale: 1 / HomeTheme.pixelRatio
+
+        Generic.BusyIndicator {
+            anchors.centerIn: parent
+            imageRight: _zone.strip("busy-first")
+            imageLeft: _zone.strip("busy-second")
+            animationInterval: 80
+            header: FilmCatalogue.title(_zone.film)
+            headerFont: HomeTheme.enlarged(HomeTheme.title)
+            headerColor: Theme.text
+            headerLeftMargin: HomeTheme.sideMargin * HomeTheme.pixelRatio
+            headerRightMargin: headerLeftMargin
+            description: qsTr("One moment, the film is being prepared")
+            descriptionFont: HomeTheme.enlarged(HomeTheme.description)
+            descriptionColor: Theme.text
+            descriptionLeftMargin: headerLeftMargin
+            descriptionRightMargin: headerLeftMargin
+        }
     }
 
     HomeButton {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import QtQml
+import QtQuick
 
 /*! A film that has a picture of its own. */
 QtObject {
@@ -9,4 +9,7 @@ QtObject {
     required property string title
     required property string genre
     required property string description
+    required property string story
+    /*! Which part of the picture a poster shows. */
+    property int alignment: Image.AlignHCenter
 }

@@ -11,8 +11,7 @@ Item {
 
     Generic.RoundedImage {
         anchors.fill: parent
-        sourceSize: HomeTheme.decodedSize(_backdrop.width, _backdrop.height)
-        source: _backdrop.visible ? FilmCatalogue.picture(_backdrop.film) : ""
+        source: _backdrop.visible ? FilmCatalogue.picture(_backdrop.film, width, height) : ""
     }
 
     Generic.Rectangle {
@@ -31,7 +30,7 @@ Item {
             }
             GradientStop {
                 position: 1
-                color: "#000d121a"
+                color: HomeTheme.clearShade
             }
         }
     }
@@ -43,7 +42,7 @@ Item {
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: "#000d121a"
+                color: HomeTheme.clearShade
             }
             GradientStop {
                 position: 1

@@ -32,7 +32,7 @@ Generic.MediaBlock {
         isViewActive: _block.isActive
         hasTitle: _block.itemsHaveTitles
         isRanked: _block.modelData.isRanked
-        pictureSize: isRanked ? Qt.size(114, 170) : Qt.size(240, 135)
+        pictureSize: isRanked ? HomeTheme.posterPicture : HomeTheme.tilePicture
     }
 
     /*! To the next film of the row; at its ends, nowhere. */
@@ -52,10 +52,10 @@ Generic.MediaBlock {
 
         y: HomeTheme.isTextLarge ? 40 : 36
         width: _block.width
-        height: _block.modelData.isRanked ? 184 : _block.itemsHaveTitles ? 183 : 149
+        height: HomeTheme.posterPicture.height + HomeTheme.framePadding * 2
         leftMargin: HomeTheme.sideMargin - HomeTheme.framePadding
         rightMargin: leftMargin
-        spacing: 4
+        spacing: 2
         orientation: ListView.Horizontal
         interactive: false
         highlightMoveDuration: Theme.isAnimated ? 200 : 0

@@ -16,11 +16,11 @@ Item {
     property bool hasTitle: true
     /*! Whether the place in the view is shown beside the picture. */
     property bool isRanked: false
-    property size pictureSize: Qt.size(240, 135)
+    property size pictureSize: HomeTheme.tilePicture
     readonly property bool focused: isViewActive && state === "focused"
 
     width: _picture.x + pictureSize.width + HomeTheme.framePadding
-    height: pictureSize.height + HomeTheme.framePadding * 2 + (hasTitle ? 34 : 0)
+    height: pictureSize.height + HomeTheme.framePadding * 2 + (hasTitle ? HomeTheme.tileTitleHeight : 0)
     state: "normal"
     states: [
         State {
@@ -34,26 +34,50 @@ Item {
     Loader {
         id: _rank
 
+        y: HomeTheme.framePadding + _tile.pictureSize.height - height
         active: _tile.isRanked
-        sourceComponent: Label {
-            y: (_tile.pictureSize.height - height) / 2 + HomeTheme.framePadding
-            width: _tile.index > 8 ? 200 : 120
+        sourceComponent: Generic.TopNumber {
+            // Its picture is sharp where the window is larger than the design.
+            textureSize: Qt.size(width * HomeTheme.pixelRatio, height * HomeTheme.pixelRatio)
+            number: _tile.index + 1
             font: HomeTheme.rank
-            color: Theme.outline
-            text: String(_tile.index + 1)
+            penWidth: 8
+            borderColor: _tile.focused ? Theme.text : HomeTheme.emptyBox
+            color: Theme.background
         }
     }
 
     Generic.RoundedImage {
         id: _picture
 
-        x: HomeTheme.framePadding + (_tile.isRanked ? _tile.index > 8 ? 186 : 96 : 0)
+        // The number reaches behind the picture.
+        x: HomeTheme.framePadding + (_tile.isRanked ? _rank.width - 30 : 0)
         y: HomeTheme.framePadding
         width: _tile.pictureSize.width
         height: _tile.pictureSize.height
         fillMode: Image.PreserveAspectCrop
-        sourceSize: HomeTheme.decodedSize(height * 16 / 9, height)
-        source: FilmCatalogue.picture(_tile.modelData)
+        horizontalAlignment: FilmCatalogue.film(_tile.modelData).alignment
+        // Of a poster's picture the sides are cut off, so that its width is not told.
+        source: FilmCatalogue.picture(_tile.modelData, _tile.isRanked ? 0 : width, height)
+    }
+
+    Loader {
+        id: _progress
+
+        x: _picture.x
+        y: _picture.y + _picture.height - height
+        active: FilmCatalogue.progress(_tile.modelData) > 0
+        sourceComponent: Generic.Rectangle {
+            width: _picture.width
+            height: 8
+            color: HomeTheme.shade
+
+            Generic.Rectangle {
+                width: parent.width * FilmCatalogue.progress(_tile.modelData)
+                height: parent.height
+                color: Theme.accent
+            }
+        }
     }
 
     Label {

@@ -68,10 +68,11 @@ HomeZone {
         y: 42
         width: cellWidth * _zone.columns
         height: _zone.height - y
-        elementWidth: 228
-        elementHeight: HomeTheme.areTitlesShown ? 168 : 134
-        horizontalSpacing: 6
-        verticalSpacing: 8
+        elementWidth: HomeTheme.gridPicture.width + HomeTheme.framePadding * 2
+        elementHeight: HomeTheme.gridPicture.height + HomeTheme.framePadding * 2
+                       + (HomeTheme.areTitlesShown ? HomeTheme.tileTitleHeight : 0)
+        horizontalSpacing: 2
+        verticalSpacing: 6
         bottomMargin: HomeTheme.bottomMargin
         clip: true
         interactive: false
@@ -83,12 +84,23 @@ HomeZone {
         delegate: FilmTile {
             isViewActive: _zone.isActive
             hasTitle: HomeTheme.areTitlesShown
-            pictureSize: Qt.size(214, 120)
+            pictureSize: HomeTheme.gridPicture
         }
 
         onModelChanged: {
             currentIndex = _zone.currentIndex;
             positionViewAtIndex(currentIndex, GridView.Center);
         }
+    }
+
+    Generic.ScrollBar {
+        x: 1280 - HomeTheme.sideMargin - width
+        y: _grid.y + HomeTheme.framePadding
+        width: 6
+        height: _zone.height - y - HomeTheme.bottomMargin
+        maximum: Math.max(0, _grid.contentHeight + _grid.bottomMargin - _grid.height)
+        sliderPosition: Math.min(maximum, _grid.contentY)
+        backgroundColor: Theme.surface
+        sliderColor: Theme.secondaryText
     }
 }

@@ -32,8 +32,15 @@ HomeZone {
         return false;
     }
 
+    // An icon of the menu is shown as large as it is: here, in pixels of the window.
     Row {
-        spacing: 12
+        id: _row
+
+        readonly property real ratio: HomeTheme.pixelRatio
+
+        transformOrigin: Item.TopLeft
+        scale: 1 / ratio
+        spacing: 12 * ratio
 
         Repeater {
             id: _entries
@@ -48,14 +55,14 @@ HomeZone {
 
                 focused: _zone.isActive && _zone.currentIndex === index
                 checked: _zone.section === index
-                baseHeight: 52
+                baseHeight: 52 * _row.ratio
                 roundingRadius: 0
-                leftPadding: 18
-                rightPadding: 22
-                contentSpacing: 10
+                leftPadding: 18 * _row.ratio
+                rightPadding: 22 * _row.ratio
+                contentSpacing: 10 * _row.ratio
                 text: modelData
-                textFont: Theme.controlFont(22, Font.DemiBold)
-                leftIconSource: Theme.icon(["menu-home", "menu-films", "menu-grid", "menu-settings"][index])
+                textFont: HomeTheme.enlarged(HomeTheme.button)
+                leftIconSource: HomeTheme.icon(["menu-home", "menu-films", "menu-grid", "menu-settings"][index], 28)
                 backgroundColors: ["transparent", "transparent", Theme.text]
                 textColors: [Theme.text, Theme.accent, Theme.ink]
                 leftIconColors: textColors

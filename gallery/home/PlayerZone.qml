@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kelui.Gallery
 import Kelui.UI.Qml.Controls.Generic as Generic
@@ -20,8 +22,12 @@ HomeZone {
     isShown: isActive
     focusedItem: _button
 
-    onFilmChanged: position = 0
-    onIsActiveChanged: play()
+    onFilmChanged: position = FilmCatalogue.progress(film) * FilmCatalogue.minutes(film) * 60
+    onIsActiveChanged: {
+        play();
+        if (!isActive)
+            FilmCatalogue.keepProgress(film, position / duration);
+    }
 
     function handleKey(key: int): bool {
         switch (key) {
@@ -85,38 +91,44 @@ HomeZone {
 
     Generic.RoundedImage {
         anchors.fill: parent
-        sourceSize: HomeTheme.decodedSize(width, height)
-        source: _zone.visible ? FilmCatalogue.picture(_zone.film) : ""
+        source: _zone.visible ? FilmCatalogue.picture(_zone.film, width, height) : ""
     }
 
     Generic.Rectangle {
         anchors.centerIn: _rewind
         width: 300
         height: 170
-        visible: _rewind.visible
+        visible: _rewind.active
         color: HomeTheme.shade
     }
 
-    Generic.RewindIcon {
+    Loader {
         id: _rewind
 
         x: parent.width / 2
         y: 300
-        visible: _zone.isActive && _zone.speed !== 1
-        source: Theme.icon("arrow")
-        speed: _zone.speed
-        textFont: HomeTheme.row
-        textColor: Theme.text
+        active: _zone.isActive && _zone.speed !== 1
+        // Its arrows are shown as large as they are decoded: here, in pixels of the window.
+        sourceComponent: Generic.RewindIcon {
+            scale: 1 / HomeTheme.pixelRatio
+            source: Theme.icon("arrow")
+            iconSize: Qt.size(57 * HomeTheme.pixelRatio, 57 * HomeTheme.pixelRatio)
+            iconSpacing: 9 * HomeTheme.pixelRatio
+            contentSpacing: 18 * HomeTheme.pixelRatio
+            speed: _zone.speed
+            textFont: HomeTheme.enlarged(HomeTheme.row)
+            textColor: Theme.text
+        }
     }
 
     Generic.Rectangle {
-        y: 500
+        y: 440
         width: parent.width
         height: parent.height - y
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: "#000d121a"
+                color: HomeTheme.clearShade
             }
             GradientStop {
                 position: 0.5
@@ -142,7 +154,6 @@ HomeZone {
         x: parent.width - HomeTheme.sideMargin - width
         y: 594
         font: HomeTheme.details
-        color: Theme.secondaryText
         text: _zone.clock(_zone.position) + " / " + _zone.clock(_zone.duration)
     }
 
@@ -172,6 +183,6 @@ HomeZone {
         leftPadding: 0
         rightPadding: 0
         spacing: 0
-        leftIconSource: Theme.icon(_zone.isPaused || _zone.speed !== 1 ? "play" : "pause")
+        leftIconSource: HomeTheme.icon(_zone.isPaused || _zone.speed !== 1 ? "play" : "pause", 28)
     }
 }

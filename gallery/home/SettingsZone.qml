@@ -10,6 +10,7 @@ HomeZone {
     id: _zone
 
     readonly property list<Item> boxes: [_animation, _largeText, _titles, _russian]
+    readonly property real ratio: HomeTheme.pixelRatio
     property int currentIndex: 0
 
     focusedItem: boxes[currentIndex]
@@ -38,23 +39,26 @@ HomeZone {
         id: _box
 
         focused: _zone.isActive && _zone.focusedItem === _box
-        width: 640
-        height: 60
-        leftInset: -20
-        topInset: -10
-        bottomInset: -10
-        indicatorSize: Qt.size(48, 48)
+        width: 640 * _zone.ratio
+        height: 60 * _zone.ratio
+        spacing: 24 * _zone.ratio
+        leftInset: -20 * _zone.ratio
+        topInset: -10 * _zone.ratio
+        bottomInset: -10 * _zone.ratio
+        indicatorSize: Qt.size(48 * _zone.ratio, 48 * _zone.ratio)
         indicatorColors: HomeTheme.boxes
-        iconPath: Theme.icon("check")
+        iconPath: HomeTheme.icon("check", 48)
         iconColors: HomeTheme.boxTitles
-        titleFont: HomeTheme.button
+        titleFont: HomeTheme.enlarged(HomeTheme.button)
         titleColors: HomeTheme.boxTitles
 
         background: Generic.Rectangle {
             color: _box.focused ? Theme.raised : Theme.panel
 
             FocusFrame {
+                anchors.margins: -6 * _zone.ratio
                 focused: _box.focused
+                border.width: 3 * _zone.ratio
             }
         }
     }
@@ -65,10 +69,13 @@ HomeZone {
         text: qsTr("Settings")
     }
 
+    // The check in a box is shown as large as it is: here, in pixels of the window.
     Column {
         x: HomeTheme.sideMargin + 20
         y: 100
-        spacing: 36
+        transformOrigin: Item.TopLeft
+        scale: 1 / _zone.ratio
+        spacing: 36 * _zone.ratio
 
         Box {
             id: _animation

@@ -189,11 +189,34 @@ GalleryPage {
         },
         Shot {
             name: "Home-details"
+            time: 200
 
             onTaken: _page.showDetails([Qt.Key_Right, Qt.Key_Right, Qt.Key_Return])
         },
         Shot {
+            name: "Home-story"
+            // While the lines of the story are wrapped.
+            time: 200
+
+            onTaken: {
+                _page.showDetails([Qt.Key_Right, Qt.Key_Return]);
+                _page.press([Qt.Key_Down]);
+            }
+        },
+        Shot {
+            name: "Home-story-ru"
+            language: "ru"
+            time: 200
+
+            onTaken: {
+                _page.showDetails([Qt.Key_Down, Qt.Key_Return]);
+                _page.press([Qt.Key_Down]);
+            }
+        },
+        Shot {
             name: "Home-rewind"
+            // To the first of the arrows that is lit.
+            time: 130
 
             onTaken: {
                 _page.showDetails([Qt.Key_Right, Qt.Key_Right, Qt.Key_Right, Qt.Key_Return]);
@@ -317,7 +340,7 @@ GalleryPage {
                 }
                 GradientStop {
                     position: 1
-                    color: "#000d121a"
+                    color: HomeTheme.clearShade
                 }
             }
         }
@@ -352,9 +375,9 @@ GalleryPage {
             id: _home
 
             page: _page
-            y: 402
+            y: 388
             width: 1280
-            height: 318
+            height: 332
             isShown: _menu.section === 0
             shelf: _page.homeShelf
             above: _menu
@@ -368,7 +391,7 @@ GalleryPage {
 
             page: _page
             x: HomeTheme.sideMargin
-            y: 124
+            y: 112
             isShown: _menu.section === 1
             shelves: _page.filmShelves
             above: _menu
@@ -380,9 +403,9 @@ GalleryPage {
             id: _films
 
             page: _page
-            y: 206
+            y: 176
             width: 1280
-            height: 514
+            height: 544
             isShown: _menu.section === 1
             shelf: _page.filmShelves[_tabs.openIndex]
             above: _tabs

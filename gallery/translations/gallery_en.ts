@@ -229,6 +229,10 @@
         <source>To my list</source>
         <translation>To my list</translation>
     </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
 </context>
 <context>
     <name>FilmCatalogue</name>
@@ -532,6 +536,130 @@
     <message>
         <source>%1  ·  %2  ·  %3 min</source>
         <translation>%1  ·  %2  ·  %3 min</translation>
+    </message>
+    <message>
+        <source>Ada and Mirja have not spoken since their father left them one sledge and two opposite maps. When the radio of the last village falls silent, they set out together, because neither would let the other go first. For nine nights the sky stays black. On the tenth the dogs stop, the snow begins to hum, and the sisters must decide whose map was right.</source>
+        <translation>Ada and Mirja have not spoken since their father left them one sledge and two opposite maps. When the radio of the last village falls silent, they set out together, because neither would let the other go first. For nine nights the sky stays black. On the tenth the dogs stop, the snow begins to hum, and the sisters must decide whose map was right.</translation>
+    </message>
+    <message>
+        <source>Old Tomas has counted every ship that passed the ninth rock, and forgotten none of them. The evening he does not climb the stairs, a letter lies in the empty harbour office: the light is no longer needed. A girl who sells fish, a retired pilot and a postman afraid of water row out to do his work for one night, in the worst storm of the year.</source>
+        <translation>Old Tomas has counted every ship that passed the ninth rock, and forgotten none of them. The evening he does not climb the stairs, a letter lies in the empty harbour office: the light is no longer needed. A girl who sells fish, a retired pilot and a postman afraid of water row out to do his work for one night, in the worst storm of the year.</translation>
+    </message>
+    <message>
+        <source>The survey was to last eleven months. In the fourth, the antenna catches a conversation that nobody on board has held yet: the same voices, the same jokes, and an argument about a door. The commander forbids everyone to listen further. The engineer listens all the same, for in the last sentence someone says her name and asks her not to open it.</source>
+        <translation>The survey was to last eleven months. In the fourth, the antenna catches a conversation that nobody on board has held yet: the same voices, the same jokes, and an argument about a door. The commander forbids everyone to listen further. The engineer listens all the same, for in the last sentence someone says her name and asks her not to open it.</translation>
+    </message>
+    <message>
+        <source>A mapmaker without money, a driver without a licence and a camel without manners share one canteen and one secret. Behind them comes a rich collector with three trucks and all the water in the world. The well is marked on the map in red ink. Nobody has asked yet why the ink is still wet.</source>
+        <translation>A mapmaker without money, a driver without a licence and a camel without manners share one canteen and one secret. Behind them comes a rich collector with three trucks and all the water in the world. The well is marked on the map in red ink. Nobody has asked yet why the ink is still wet.</translation>
+    </message>
+    <message>
+        <source>The rules are simple: never stop before dawn, never turn round, never look into the box. Rui has kept them for six years, on a road whose signs count upwards without end. Tonight the box knocks from the inside, politely, three times. And in the mirror, for the first time ever, there are lights.</source>
+        <translation>The rules are simple: never stop before dawn, never turn round, never look into the box. Rui has kept them for six years, on a road whose signs count upwards without end. Tonight the box knocks from the inside, politely, three times. And in the mirror, for the first time ever, there are lights.</translation>
+    </message>
+    <message>
+        <source>The game was invented by a great-grandfather, and its rules fill a notebook that nobody has ever read to the end. With the road closed and the telephone dead, the family begins to read. Page by page, old debts, old recipes and one old quarrel turn out to be rules as well. By Sunday everyone has cheated, and nobody wants to win.</source>
+        <translation>The game was invented by a great-grandfather, and its rules fill a notebook that nobody has ever read to the end. With the road closed and the telephone dead, the family begins to read. Page by page, old debts, old recipes and one old quarrel turn out to be rules as well. By Sunday everyone has cheated, and nobody wants to win.</translation>
+    </message>
+    <message>
+        <source>Each evening at eight somebody plays the same waltz and stops before the last bar. A nurse comes home to it, a boy does his sums to it, a couple quarrels in its time. When one night there is no music, forty doors open on the stairs. The neighbours, who have never met, go looking for a pianist that no list of tenants knows.</source>
+        <translation>Each evening at eight somebody plays the same waltz and stops before the last bar. A nurse comes home to it, a boy does his sums to it, a couple quarrels in its time. When one night there is no music, forty doors open on the stairs. The neighbours, who have never met, go looking for a pianist that no list of tenants knows.</translation>
+    </message>
+    <message>
+        <source>Grandmother Olga won the flight in a crossword, and meant to be home for supper. But the burner sticks, the wind turns, and below them pass a fair, a border, two weddings and a very surprised herd of cows. Five days are enough to learn to steer by smell, to land a sandwich on a church tower, and to say what one never says on the ground.</source>
+        <translation>Grandmother Olga won the flight in a crossword, and meant to be home for supper. But the burner sticks, the wind turns, and below them pass a fair, a border, two weddings and a very surprised herd of cows. Five days are enough to learn to steer by smell, to land a sandwich on a church tower, and to say what one never says on the ground.</translation>
+    </message>
+    <message>
+        <source>Inspector Marek closed the case, received a medal and never slept well again. Now a woman who died that night has sent him a ticket for the last tram. He takes his old coat, his older notebook and a place under the lamp. It begins to rain at nine, exactly as it did then. Someone across the street is taking notes about him.</source>
+        <translation>Inspector Marek closed the case, received a medal and never slept well again. Now a woman who died that night has sent him a ticket for the last tram. He takes his old coat, his older notebook and a place under the lamp. It begins to rain at nine, exactly as it did then. Someone across the street is taking notes about him.</translation>
+    </message>
+    <message>
+        <source>The tracks are those of a bear, but they walk in a straight line. Each morning they begin at the forester&apos;s own door. He follows them past the last felled tree, past the last name on the map, and finds that someone has been mending the forest behind his back: a fence here, a nest there, and a bridge that was not needed until now.</source>
+        <translation>The tracks are those of a bear, but they walk in a straight line. Each morning they begin at the forester&apos;s own door. He follows them past the last felled tree, past the last name on the map, and finds that someone has been mending the forest behind his back: a fence here, a nest there, and a bridge that was not needed until now.</translation>
+    </message>
+    <message>
+        <source>The drill goes down eleven kilometres and comes up clean, polished, and warm as a hand. By evening every clock of the station runs backwards by a second an hour. The youngest of the team thinks that the mountain is trying to say something. The oldest knows that it did so once before, and that nobody was left to write it down.</source>
+        <translation>The drill goes down eleven kilometres and comes up clean, polished, and warm as a hand. By evening every clock of the station runs backwards by a second an hour. The youngest of the team thinks that the mountain is trying to say something. The oldest knows that it did so once before, and that nobody was left to write it down.</translation>
+    </message>
+    <message>
+        <source>The Gull has lost every race since she was built, and this summer is to be her last. Then the sailing school is sold, and its pupils take the boat, the coach and the coach&apos;s dog across the bay to ask for it back. They have no engine, one sail and a wager with the richest man on the coast. The wind, for once, is on their side.</source>
+        <translation>The Gull has lost every race since she was built, and this summer is to be her last. Then the sailing school is sold, and its pupils take the boat, the coach and the coach&apos;s dog across the bay to ask for it back. They have no engine, one sail and a wager with the richest man on the coast. The wind, for once, is on their side.</translation>
+    </message>
+    <message>
+        <source>The film was made in one summer with a crew of nineteen. Every picture of the weather is real: the director waited for it, sometimes for weeks, and let the actors wait as well. The music was recorded in an empty water tower, whose echo lasts as long as a breath.</source>
+        <translation>The film was made in one summer with a crew of nineteen. Every picture of the weather is real: the director waited for it, sometimes for weeks, and let the actors wait as well. The music was recorded in an empty water tower, whose echo lasts as long as a breath.</translation>
+    </message>
+    <message>
+        <source>The script lay in a drawer for twelve years, until a reader took it for a diary and asked how the story went on. Most of the parts are played by people who had never stood before a camera. What they say at the table in the middle of the film, they made up themselves.</source>
+        <translation>The script lay in a drawer for twelve years, until a reader took it for a diary and asked how the story went on. Most of the parts are played by people who had never stood before a camera. What they say at the table in the middle of the film, they made up themselves.</translation>
+    </message>
+    <message>
+        <source>Nothing in this film was drawn by a computer. The models are up to six metres long and hang today in the foyer of the studio. For the longest scene, which has no cut, the camera travelled on the rails of a closed mine, pushed by eight students of physics.</source>
+        <translation>Nothing in this film was drawn by a computer. The models are up to six metres long and hang today in the foyer of the studio. For the longest scene, which has no cut, the camera travelled on the rails of a closed mine, pushed by eight students of physics.</translation>
+    </message>
+    <message>
+        <source>Vera Lindqvist</source>
+        <translation>Vera Lindqvist</translation>
+    </message>
+    <message>
+        <source>Anton Belov</source>
+        <translation>Anton Belov</translation>
+    </message>
+    <message>
+        <source>Mina Okafor</source>
+        <translation>Mina Okafor</translation>
+    </message>
+    <message>
+        <source>Jan Kovar</source>
+        <translation>Jan Kovar</translation>
+    </message>
+    <message>
+        <source>Lucia Ferrante</source>
+        <translation>Lucia Ferrante</translation>
+    </message>
+    <message>
+        <source>Pavel Sorokin</source>
+        <translation>Pavel Sorokin</translation>
+    </message>
+    <message>
+        <source>Hanna Weiss</source>
+        <translation>Hanna Weiss</translation>
+    </message>
+    <message>
+        <source>Diego Marin</source>
+        <translation>Diego Marin</translation>
+    </message>
+    <message>
+        <source>Irina Volkova</source>
+        <translation>Irina Volkova</translation>
+    </message>
+    <message>
+        <source>Tom Achterberg</source>
+        <translation>Tom Achterberg</translation>
+    </message>
+    <message>
+        <source>Sofia Nilsen</source>
+        <translation>Sofia Nilsen</translation>
+    </message>
+    <message>
+        <source>Director: %1</source>
+        <translation>Director: %1</translation>
+    </message>
+    <message>
+        <source>Starring: %1, %2, %3</source>
+        <translation>Starring: %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Music: %1</source>
+        <translation>Music: %1</translation>
+    </message>
+    <message>
+        <source>Sound: English, Russian</source>
+        <translation>Sound: English, Russian</translation>
+    </message>
+    <message>
+        <source>Subtitles: English, Russian, for the hard of hearing</source>
+        <translation>Subtitles: English, Russian, for the hard of hearing</translation>
     </message>
 </context>
 <context>

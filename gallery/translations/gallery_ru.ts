@@ -229,6 +229,10 @@
         <source>To my list</source>
         <translation>В мой список</translation>
     </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
 </context>
 <context>
     <name>FilmCatalogue</name>
@@ -532,6 +536,130 @@
     <message>
         <source>%1  ·  %2  ·  %3 min</source>
         <translation>%1  ·  %2  ·  %3 мин</translation>
+    </message>
+    <message>
+        <source>Ada and Mirja have not spoken since their father left them one sledge and two opposite maps. When the radio of the last village falls silent, they set out together, because neither would let the other go first. For nine nights the sky stays black. On the tenth the dogs stop, the snow begins to hum, and the sisters must decide whose map was right.</source>
+        <translation>Ада и Мирья не разговаривают с тех пор, как отец оставил им одни сани и две разные карты. Когда в последней деревне замолкает радио, сёстры отправляются в путь вместе: ни одна не хочет уступить первенство. Девять ночей небо остаётся чёрным. На десятую собаки останавливаются, снег начинает гудеть, и пора решить, чья карта была верной.</translation>
+    </message>
+    <message>
+        <source>Old Tomas has counted every ship that passed the ninth rock, and forgotten none of them. The evening he does not climb the stairs, a letter lies in the empty harbour office: the light is no longer needed. A girl who sells fish, a retired pilot and a postman afraid of water row out to do his work for one night, in the worst storm of the year.</source>
+        <translation>Старый Томас сосчитал все корабли, прошедшие мимо Девятой скалы, и не забыл ни одного. В тот вечер, когда он не поднимается по лестнице, в пустой конторе порта лежит письмо: маяк больше не нужен. Торговка рыбой, лоцман на пенсии и почтальон, который боится воды, плывут к скале, чтобы одну ночь сделать его работу. Шторма сильнее в этом году не было.</translation>
+    </message>
+    <message>
+        <source>The survey was to last eleven months. In the fourth, the antenna catches a conversation that nobody on board has held yet: the same voices, the same jokes, and an argument about a door. The commander forbids everyone to listen further. The engineer listens all the same, for in the last sentence someone says her name and asks her not to open it.</source>
+        <translation>Экспедиция должна была длиться одиннадцать месяцев. На четвёртом антенна ловит разговор, которого на борту ещё не было: те же голоса, те же шутки и спор о какой-то двери. Командир запрещает слушать дальше. Бортинженер всё-таки слушает: в последней фразе кто-то называет её имя и просит не открывать.</translation>
+    </message>
+    <message>
+        <source>A mapmaker without money, a driver without a licence and a camel without manners share one canteen and one secret. Behind them comes a rich collector with three trucks and all the water in the world. The well is marked on the map in red ink. Nobody has asked yet why the ink is still wet.</source>
+        <translation>Картограф без денег, водитель без прав и верблюд без воспитания делят одну флягу и одну тайну. За ними едет богатый коллекционер: у него три грузовика и сколько угодно воды. Колодец отмечен на карте красными чернилами. И никто ещё не спросил, почему чернила не высохли.</translation>
+    </message>
+    <message>
+        <source>The rules are simple: never stop before dawn, never turn round, never look into the box. Rui has kept them for six years, on a road whose signs count upwards without end. Tonight the box knocks from the inside, politely, three times. And in the mirror, for the first time ever, there are lights.</source>
+        <translation>Правила просты: не останавливаться до рассвета, не поворачивать назад, не заглядывать в коробку. Руй соблюдает их шесть лет, на дороге, где числа на указателях растут без конца. Сегодня из коробки стучат: вежливо, три раза. А в зеркале, впервые за всё время, появляются огни.</translation>
+    </message>
+    <message>
+        <source>The game was invented by a great-grandfather, and its rules fill a notebook that nobody has ever read to the end. With the road closed and the telephone dead, the family begins to read. Page by page, old debts, old recipes and one old quarrel turn out to be rules as well. By Sunday everyone has cheated, and nobody wants to win.</source>
+        <translation>Игру придумал прадедушка, а её правила занимают целую тетрадь, которую никто не дочитал до конца. Дорогу замело, телефон молчит, и семья начинает читать. Страница за страницей выясняется, что старые долги, старые рецепты и одна старая ссора тоже записаны в правилах. К воскресенью сжульничали все, а выигрывать не хочет никто.</translation>
+    </message>
+    <message>
+        <source>Each evening at eight somebody plays the same waltz and stops before the last bar. A nurse comes home to it, a boy does his sums to it, a couple quarrels in its time. When one night there is no music, forty doors open on the stairs. The neighbours, who have never met, go looking for a pianist that no list of tenants knows.</source>
+        <translation>Каждый вечер в восемь кто-то играет один и тот же вальс и останавливается перед последним тактом. Под него возвращается с работы медсестра, мальчик решает задачи, ссорится молодая пара. Однажды музыки нет, и на лестницу открываются сорок дверей. Соседи, которые никогда не встречались, ищут пианиста, которого нет ни в одном списке жильцов.</translation>
+    </message>
+    <message>
+        <source>Grandmother Olga won the flight in a crossword, and meant to be home for supper. But the burner sticks, the wind turns, and below them pass a fair, a border, two weddings and a very surprised herd of cows. Five days are enough to learn to steer by smell, to land a sandwich on a church tower, and to say what one never says on the ground.</source>
+        <translation>Бабушка Ольга выиграла полёт в кроссворде и собиралась вернуться к ужину. Но горелку заело, ветер переменился, и внизу проплывают ярмарка, граница, две свадьбы и очень удивлённое стадо. Пяти дней хватит, чтобы научиться править по запаху, посадить бутерброд на колокольню и сказать то, чего не говорят на земле.</translation>
+    </message>
+    <message>
+        <source>Inspector Marek closed the case, received a medal and never slept well again. Now a woman who died that night has sent him a ticket for the last tram. He takes his old coat, his older notebook and a place under the lamp. It begins to rain at nine, exactly as it did then. Someone across the street is taking notes about him.</source>
+        <translation>Инспектор Марек закрыл дело, получил медаль и с тех пор плохо спит. И вот женщина, погибшая той ночью, присылает ему билет на последний трамвай. Он берёт старое пальто, ещё более старую записную книжку и встаёт под фонарём. Дождь начинается в девять, точно как тогда. На другой стороне улицы кто-то делает записи о нём самом.</translation>
+    </message>
+    <message>
+        <source>The tracks are those of a bear, but they walk in a straight line. Each morning they begin at the forester&apos;s own door. He follows them past the last felled tree, past the last name on the map, and finds that someone has been mending the forest behind his back: a fence here, a nest there, and a bridge that was not needed until now.</source>
+        <translation>Следы похожи на медвежьи, но идут по прямой. Каждое утро они начинаются у самого порога лесника. Он идёт по ним дальше последней просеки, дальше последнего названия на карте и видит, что кто-то за его спиной чинит лес: тут изгородь, там гнездо и мост, который до этого дня не был нужен.</translation>
+    </message>
+    <message>
+        <source>The drill goes down eleven kilometres and comes up clean, polished, and warm as a hand. By evening every clock of the station runs backwards by a second an hour. The youngest of the team thinks that the mountain is trying to say something. The oldest knows that it did so once before, and that nobody was left to write it down.</source>
+        <translation>Бур уходит на одиннадцать километров и возвращается чистым, отполированным и тёплым, как ладонь. К вечеру все часы станции отстают на секунду в час. Самая молодая в группе думает, что гора хочет что-то сказать. Самый старший знает, что однажды она уже говорила, и записать это было некому.</translation>
+    </message>
+    <message>
+        <source>The Gull has lost every race since she was built, and this summer is to be her last. Then the sailing school is sold, and its pupils take the boat, the coach and the coach&apos;s dog across the bay to ask for it back. They have no engine, one sail and a wager with the richest man on the coast. The wind, for once, is on their side.</source>
+        <translation>«Чайка» проиграла все гонки с того дня, как её построили, и это лето должно стать для неё последним. Но парусную школу продают, и ученики забирают лодку, тренера и собаку тренера, чтобы пересечь залив и попросить её обратно. У них нет мотора, зато есть один парус и пари с самым богатым человеком побережья. И ветер наконец-то на их стороне.</translation>
+    </message>
+    <message>
+        <source>The film was made in one summer with a crew of nineteen. Every picture of the weather is real: the director waited for it, sometimes for weeks, and let the actors wait as well. The music was recorded in an empty water tower, whose echo lasts as long as a breath.</source>
+        <translation>Фильм сняли за одно лето, и в группе было девятнадцать человек. Вся погода в кадре настоящая: режиссёр ждал её, иногда неделями, и актёры ждали вместе с ним. Музыку записали в пустой водонапорной башне, где эхо длится ровно один вдох.</translation>
+    </message>
+    <message>
+        <source>The script lay in a drawer for twelve years, until a reader took it for a diary and asked how the story went on. Most of the parts are played by people who had never stood before a camera. What they say at the table in the middle of the film, they made up themselves.</source>
+        <translation>Сценарий двенадцать лет пролежал в ящике стола, пока кто-то не принял его за дневник и не спросил, что было дальше. Почти все роли исполнили люди, никогда не стоявшие перед камерой. Разговор за столом в середине фильма они придумали сами.</translation>
+    </message>
+    <message>
+        <source>Nothing in this film was drawn by a computer. The models are up to six metres long and hang today in the foyer of the studio. For the longest scene, which has no cut, the camera travelled on the rails of a closed mine, pushed by eight students of physics.</source>
+        <translation>В этом фильме ничего не нарисовано на компьютере. Самые большие макеты длиной шесть метров висят теперь в фойе студии. Для самой длинной сцены, снятой без единой склейки, камера ехала по рельсам закрытой шахты, а толкали её восемь студентов-физиков.</translation>
+    </message>
+    <message>
+        <source>Vera Lindqvist</source>
+        <translation>Вера Линдквист</translation>
+    </message>
+    <message>
+        <source>Anton Belov</source>
+        <translation>Антон Белов</translation>
+    </message>
+    <message>
+        <source>Mina Okafor</source>
+        <translation>Мина Окафор</translation>
+    </message>
+    <message>
+        <source>Jan Kovar</source>
+        <translation>Ян Коварж</translation>
+    </message>
+    <message>
+        <source>Lucia Ferrante</source>
+        <translation>Лючия Ферранте</translation>
+    </message>
+    <message>
+        <source>Pavel Sorokin</source>
+        <translation>Павел Сорокин</translation>
+    </message>
+    <message>
+        <source>Hanna Weiss</source>
+        <translation>Ханна Вайс</translation>
+    </message>
+    <message>
+        <source>Diego Marin</source>
+        <translation>Диего Марин</translation>
+    </message>
+    <message>
+        <source>Irina Volkova</source>
+        <translation>Ирина Волкова</translation>
+    </message>
+    <message>
+        <source>Tom Achterberg</source>
+        <translation>Том Ахтерберг</translation>
+    </message>
+    <message>
+        <source>Sofia Nilsen</source>
+        <translation>София Нильсен</translation>
+    </message>
+    <message>
+        <source>Director: %1</source>
+        <translation>Режиссёр: %1</translation>
+    </message>
+    <message>
+        <source>Starring: %1, %2, %3</source>
+        <translation>В ролях: %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Music: %1</source>
+        <translation>Композитор: %1</translation>
+    </message>
+    <message>
+        <source>Sound: English, Russian</source>
+        <translation>Звук: русский, английский</translation>
+    </message>
+    <message>
+        <source>Subtitles: English, Russian, for the hard of hearing</source>
+        <translation>Субтитры: русские, английские, для слабослышащих</translation>
     </message>
 </context>
 <context>

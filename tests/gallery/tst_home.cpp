@@ -20,7 +20,7 @@ constexpr int filmCount = 1000;
 // A television may cut off a twentieth of the picture at each edge.
 constexpr int sideMargin = 64;
 constexpr int topMargin = 36;
-constexpr int frame = 7;
+constexpr int frame = 8;
 
 bool isFocused(const QQuickItem &item)
 {
@@ -67,6 +67,14 @@ private Q_SLOTS:
     void gridReachesItsEnd();
     void filmIsChosenAndKept();
     void waitIsCalledOff();
+    void storyIsRead_data();
+    void storyIsRead();
+    void filmsContinue();
+    void placesAreNumbered();
+    void picturesAreSharp_data();
+    void picturesAreSharp();
+    void restsWhereNothingMoves_data();
+    void restsWhereNothingMoves();
     void speedChanges_data();
     void speedChanges();
     void filmEnds();
@@ -368,7 +376,7 @@ void tst_home::filmIsChosenAndKept()
     QCOMPARE(text(), u"Cancel"_s);
     pass(2000);
     QCOMPARE(zoneName(), u"DetailsZone"_s);
-    QCOMPARE(text(), u"Watch"_s);
+    QCOMPARE(text(), u"Continue"_s);
     press(Qt::Key_Right, 5);
     QCOMPARE(text(), u"To my list"_s);
     ok();
@@ -404,6 +412,227 @@ void tst_home::waitIsCalledOff()
     QCOMPARE(zoneName(), u"BusyZone"_s);
     pass(2000);
     QCOMPARE(zoneName(), u"DetailsZone"_s);
+}
+
+void tst_home::storyIsRead_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<bool>("isTextLarge");
+    for (const QString &code : Language::codes()) {
+        QTest::addRow("%s", qPrintable(code)) << code << false;
+        QTest::addRow("%s, large", qPrintable(code)) << code << true;
+    }
+}
+
+void tst_home::storyIsRead()
+{
+    QFETCH(const QString, language);
+    QFETCH(const bool, isTextLarge);
+    m_engine->singletonInstance<Language *>("Kelui.Gallery", "Language")->setCode(language);
+    theme("HomeTheme")->setProperty("isTextLarge", isTextLarge);
+    ok();
+    pass(2000);
+    const QQuickItem *watch = focused();
+    press(Qt::Key_Down);
+    const QQuickItem *story = focused();
+    QVERIFY(story != watch);
+    QQuickItem *view = nullptr;
+    QQuickItem *bar = nullptr;
+    visit(*focused(), [&](QQuickItem &item) {
+        if (item.inherits("KelLargeText"))
+            view = &item;
+        if (item.inherits("KelScrollBar"))
+            bar = &item;
+        return true;
+    });
+    QVERIFY(view && bar);
+    const QString text = view->property("text").toString();
+    // Its lines are wrapped one by one.
+    for (qsizetype i = text.count(u'\n'); i >= 0; --i)
+        settle();
+    const int line = story->property("lineHeight").toInt();
+    const int end = view->property("scrollMaximum").toInt();
+    QVERIFY(end > 0);
+    QCOMPARE(end % line, 0);
+    QCOMPARE(int(view->height()) % line, 0);
+    int offset = 0;
+    for (int presses = 0; offset < end && presses < 100; ++presses) {
+        press(Qt::Key_Down);
+        QVERIFY(view->property("offset").toInt() > offset);
+        offset = view->property("offset").toInt();
+        QCOMPARE(offset % line, 0);
+    }
+    QCOMPARE(offset, end);
+    QCOMPARE(bar->property("sliderPosition"), bar->property("maximum"));
+    // What is of no use here changes nothing.
+    for (const int key : {Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Return}) {
+        press(key);
+        QCOMPARE(focused(), story);
+        QCOMPARE(view->property("offset").toInt(), end);
+    }
+    while (view->property("offset").toInt() > 0) {
+        press(Qt::Key_Up);
+        QCOMPARE(focused(), story);
+    }
+    press(Qt::Key_Up);
+    QCOMPARE(focused(), watch);
+    // The next time it is read from the beginning.
+    press(Qt::Key_Down, 3);
+    back();
+    QCOMPARE(zoneName(), u"RowsZone"_s);
+    ok();
+    pass(2000);
+    QCOMPARE(focused(), watch);
+    QCOMPARE(view->property("offset").toInt(), 0);
+    QCOMPARE(bar->property("sliderPosition").toInt(), 0);
+}
+
+void tst_home::filmsContinue()
+{
+    const auto progress = [this](int film) {
+        double result = -1;
+        QMetaObject::invokeMethod(theme("FilmCatalogue"), "progress", qReturnArg(result), film);
+        return result;
+    };
+    const auto share = [this] {
+        return zone()->property("position").toReal() / zone()->property("duration").toInt();
+    };
+    press(Qt::Key_Down);
+    const int first = film();
+    QVERIFY(progress(first) > 0);
+    ok();
+    pass(2000);
+    ok();
+    QCOMPARE(share(), progress(first));
+    zone()->setProperty("position", zone()->property("duration").toReal() / 4);
+    back();
+    QCOMPARE(progress(first), 0.25);
+    back();
+    press(Qt::Key_Right);
+    QVERIFY(film() != first);
+    ok();
+    pass(2000);
+    ok();
+    QCOMPARE(share(), progress(zone()->property("film").toInt()));
+    // To its end, and then there is nothing left of it to see.
+    const int second = zone()->property("film").toInt();
+    zone()->setProperty("position", zone()->property("duration"));
+    pass(500);
+    back();
+    QCOMPARE(progress(second), 0);
+    QCOMPARE(text(), u"Watch"_s);
+    back();
+    press(Qt::Key_Left);
+    ok();
+    pass(2000);
+    QCOMPARE(text(), u"Continue"_s);
+    ok();
+    QCOMPARE(share(), 0.25);
+}
+
+void tst_home::placesAreNumbered()
+{
+    constexpr int places = 10;
+    press(Qt::Key_Down, 2);
+    for (int place = 1; place <= places; ++place) {
+        int number = -1;
+        visit(*focused(), [&](QQuickItem &item) {
+            if (item.inherits("KelTopNumber"))
+                number = item.property("number").toInt();
+            return true;
+        });
+        QCOMPARE(number, place);
+        press(Qt::Key_Right);
+    }
+}
+
+void tst_home::picturesAreSharp_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const int height : {720, 1080, 2160})
+        QTest::addRow("%d", height) << QSize(height * 16 / 9, height);
+}
+
+//! No picture is scaled: what is decoded has as many pixels as are shown of it.
+void tst_home::picturesAreSharp()
+{
+    QFETCH(const QSize, size);
+    m_window->resize(size);
+    QTRY_COMPARE(theme("HomeTheme")->property("pixelRatio").toReal(), size.height() / 720.0);
+    settle();
+    const auto check = [this] {
+        int pictures = 0;
+        visit(*m_window->contentItem(), [&](QQuickItem &item) {
+            const QString source = item.property("source").toString();
+            if (!item.isVisible() || !item.inherits("QQuickImage") || !source.startsWith(u"image://"_s))
+                return item.isVisible();
+            const qreal shown = item.mapRectToScene(item.boundingRect()).height();
+            if (qAbs(shown - item.implicitHeight()) > 0.01) {
+                qInfo("%s is %g high, and shown %g high", qPrintable(source), item.implicitHeight(), shown);
+                pictures = std::numeric_limits<int>::min();
+            }
+            ++pictures;
+            return true;
+        });
+        return pictures;
+    };
+    QVERIFY(check() > 10);
+    press(Qt::Key_Down, 2);
+    QVERIFY(check() > 10);
+    ok();
+    pass(2000);
+    QVERIFY(check() > 2);
+    openSection(2);
+    QVERIFY(check() > 15);
+    openSection(3);
+    QVERIFY(check() > 5);
+}
+
+void tst_home::restsWhereNothingMoves_data()
+{
+    QTest::addColumn<int>("section");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<bool>("isMoving");
+    const int down = Qt::Key_Down;
+    const int chosen = Qt::Key_Return;
+    QTest::newRow("rows") << 0 << QList<int>{down, down} << false;
+    QTest::newRow("tabs") << 1 << QList<int>{} << false;
+    QTest::newRow("grid") << 2 << QList<int>{down, down, down} << false;
+    QTest::newRow("settings") << 3 << QList<int>{} << false;
+    QTest::newRow("wait") << 0 << QList<int>{chosen} << true;
+    QTest::newRow("details") << 0 << QList<int>{chosen, 0} << false;
+    QTest::newRow("story") << 0 << QList<int>{chosen, 0, down, down} << false;
+    QTest::newRow("player") << 0 << QList<int>{chosen, 0, chosen} << true;
+    QTest::newRow("pause") << 0 << QList<int>{chosen, 0, chosen, chosen} << false;
+}
+
+//! A frame is drawn for what changes, and for nothing else. Between the keys, 0 is the wait for a film.
+void tst_home::restsWhereNothingMoves()
+{
+    QFETCH(const int, section);
+    QFETCH(const QList<int>, keys);
+    QFETCH(const bool, isMoving);
+    openSection(section);
+    for (const int key : keys) {
+        if (key == 0)
+            pass(2000);
+        else
+            press(key);
+    }
+    int frames = 0;
+    connect(m_window, &QQuickWindow::afterRendering, this, [&frames] { ++frames; });
+    const auto framesDrawn = [&](int times) {
+        frames = 0;
+        for (int i = 0; i < times; ++i) {
+            pass(50);
+            QTest::qWait(5);
+        }
+        return frames;
+    };
+    if (!isMoving)
+        QTRY_COMPARE(framesDrawn(4), 0);
+    QCOMPARE(framesDrawn(20) > 0, isMoving);
+    m_window->disconnect(this);
 }
 
 void tst_home::speedChanges_data()
