@@ -753,6 +753,13 @@
 <context>
     <name>HomePage</name>
     <message>
+        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
+        <translation>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</translation>
+    </message>
+</context>
+<context>
+    <name>HomeShelves</name>
+    <message>
         <source>New this week</source>
         <translation>New this week</translation>
     </message>
@@ -855,10 +862,6 @@
     <message>
         <source>A good laugh</source>
         <translation>A good laugh</translation>
-    </message>
-    <message>
-        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
-        <translation>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</translation>
     </message>
 </context>
 <context>

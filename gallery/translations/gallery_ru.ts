@@ -753,6 +753,13 @@
 <context>
     <name>HomePage</name>
     <message>
+        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
+        <translation>Главный экран, как в приставке, из элементов модуля: откройте кнопкой OK</translation>
+    </message>
+</context>
+<context>
+    <name>HomeShelves</name>
+    <message>
         <source>New this week</source>
         <translation>Новинки недели</translation>
     </message>
@@ -855,10 +862,6 @@
     <message>
         <source>A good laugh</source>
         <translation>Посмеяться</translation>
-    </message>
-    <message>
-        <source>A product&apos;s home screen, made of the module&apos;s controls: OK opens it</source>
-        <translation>Главный экран, как в приставке, из элементов модуля: откройте кнопкой OK</translation>
     </message>
 </context>
 <context>
