@@ -21,6 +21,9 @@ int main(int argc, char **argv)
     measureViews(table);
     measureIndicators(table);
     measureLargeText(table);
+#ifdef KELUI_HAS_GALLERY
+    measureHome(table);
+#endif
     table.print();
     return 0;
 }

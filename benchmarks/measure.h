@@ -48,5 +48,6 @@ void measureColorizer(Table &table);
 void measureKeyboard(Table &table);
 void measureControls(Table &table);
 void measureIndicators(Table &table);
+void measureHome(Table &table);
 void measureLargeText(Table &table);
 void measureViews(Table &table);
