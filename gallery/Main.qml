@@ -375,6 +375,14 @@ Window {
             currentIndex = line % count;
     }
 
+    function handleKey(key: int, text: string): bool {
+        if (handleGlobalKey(key))
+            return true;
+        if (isInMenu)
+            return handleMenuKey(key);
+        return isInTabs ? handleTabKey(key) : handlePageKey(key, text);
+    }
+
     /*! Keys that do the same everywhere. */
     function handleGlobalKey(key: int): bool {
         switch (key) {
@@ -497,12 +505,15 @@ Window {
         Item {
             id: _keys
 
-            Keys.onPressed: event => {
-                event.accepted = _window.handleGlobalKey(event.key)
-                    || (_window.isInMenu ? _window.handleMenuKey(event.key)
-                        : _window.isInTabs ? _window.handleTabKey(event.key)
-                        : _window.handlePageKey(event.key, event.text));
-            }
+            Keys.onPressed: event => event.accepted = _window.handleKey(event.key, event.text)
+        }
+
+        // The other button of a mouse is Back, but does not end the program.
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            enabled: !_window.isInMenu
+
+            onTapped: _window.handleKey(Qt.Key_Back, "")
         }
 
         Generic.Rectangle {
@@ -567,6 +578,12 @@ Window {
                         leftIconSize: modelData.isControl ? Qt.size(0, 0) : Qt.size(32, 32)
                         focused: isCurrent && _window.isInMenu && !_window.isOnLanguage
                         checked: isCurrent && !focused
+                        focusPolicy: Qt.NoFocus
+
+                        onClicked: {
+                            _window.openPage(index);
+                            _window.enterPage();
+                        }
                     }
                 }
             }
@@ -582,6 +599,9 @@ Window {
             titleText: qsTr("English")
             leftIconSource: Theme.icon("globe")
             focused: _window.isOnLanguage
+            focusPolicy: Qt.NoFocus
+
+            onClicked: _window.nextLanguage()
         }
 
         Label {
@@ -653,6 +673,18 @@ Window {
             }
         }
 
+        // What is shown small is no place to click at.
+        MouseArea {
+            x: _loader.x
+            y: _loader.y
+            z: 2
+            width: _loader.width * _loader.scale
+            height: _loader.height * _loader.scale
+            visible: _loader.isPreview
+
+            onClicked: _window.enterPage()
+        }
+
         Component {
             id: _try
 
@@ -673,6 +705,14 @@ Window {
 
         Connections {
             target: _window.currentPage
+
+            // By a pointer, which goes where it likes.
+            function onFocusedStopChanged() {
+                if (_window.currentPage.focusedStop) {
+                    _window.isInMenu = false;
+                    _window.isInTabs = false;
+                }
+            }
 
             function onPageRequested(name: string) {
                 _window.openPage(_window.pageIndex(name));

@@ -20,6 +20,10 @@ QQT.AbstractButton {
         if (page)
             page.addStop(_card);
     }
+    onPressed: {
+        if (page)
+            page.focusedStop = _card;
+    }
 
     background: Generic.Rectangle {
         color: _card.focused ? Theme.raised : Theme.surface

@@ -44,4 +44,14 @@ Generic.LineEdit {
     FocusFrame {
         focused: _field.focused
     }
+
+    // The input below would take the keys for itself.
+    MouseArea {
+        anchors.fill: parent
+
+        onClicked: {
+            _field.page.focusedStop = _field;
+            _field.page.activate();
+        }
+    }
 }

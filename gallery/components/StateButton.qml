@@ -33,6 +33,10 @@ Generic.Button {
         if (page)
             page.addStop(_control);
     }
+    onPressed: {
+        if (page)
+            page.focusedStop = _control;
+    }
 
     FocusFrame {
         focused: _control.page !== null && _control.focused

@@ -76,5 +76,7 @@ HomeZone {
         y: 520
         focused: _zone.isActive
         titleText: qsTr("Cancel")
+
+        onClicked: _zone.cancelled()
     }
 }

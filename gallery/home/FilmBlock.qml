@@ -9,10 +9,14 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 Generic.MediaBlock {
     id: _block
 
+    required property int index
     required property FilmRow modelData
     property bool isZoneActive: false
     readonly property bool isActive: isZoneActive && state === "focused"
     readonly property Item currentTile: _films.currentItem
+
+    /*! On a film of the row. */
+    signal clicked(column: int)
 
     width: 1280
     height: HomeTheme.rowHeight
@@ -30,6 +34,9 @@ Generic.MediaBlock {
 
     delegate: FilmTile {
         isViewActive: _block.isActive
+
+        onClicked: _block.clicked(index)
+
         hasTitle: _block.itemsHaveTitles
         isRanked: _block.modelData.isRanked
         pictureSize: isRanked ? HomeTheme.posterPicture : HomeTheme.tilePicture

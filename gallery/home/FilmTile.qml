@@ -19,6 +19,9 @@ Item {
     property size pictureSize: HomeTheme.tilePicture
     readonly property bool focused: isViewActive && state === "focused"
 
+    /*! By a pointer. */
+    signal clicked
+
     width: _picture.x + pictureSize.width + HomeTheme.framePadding
     height: pictureSize.height + HomeTheme.framePadding * 2 + (hasTitle ? HomeTheme.tileTitleHeight : 0)
     state: "normal"
@@ -30,6 +33,10 @@ Item {
             name: "focused"
         }
     ]
+
+    TapHandler {
+        onTapped: _tile.clicked()
+    }
 
     Loader {
         id: _rank

@@ -83,6 +83,13 @@ HomeZone {
         model: _zone.isShown ? FilmCatalogue.count : 0
         delegate: FilmTile {
             isViewActive: _zone.isActive
+
+            onClicked: {
+                _zone.page.focusedStop = _zone;
+                _zone.move(index - _zone.currentIndex);
+                _zone.chosen(index);
+            }
+
             hasTitle: HomeTheme.areTitlesShown
             pictureSize: HomeTheme.gridPicture
         }

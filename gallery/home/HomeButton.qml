@@ -7,6 +7,7 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 Generic.Button {
     id: _button
 
+    focusPolicy: Qt.NoFocus
     fixedSize: Qt.size(200, 64)
     leftPadding: 24
     rightPadding: 24

@@ -53,6 +53,8 @@ HomeZone {
                 required property int index
                 required property string modelData
 
+                focusPolicy: Qt.NoFocus
+                checkable: false
                 focused: _zone.isActive && _zone.currentIndex === index
                 checked: _zone.section === index
                 baseHeight: 52 * _row.ratio
@@ -68,6 +70,8 @@ HomeZone {
                 leftIconColors: textColors
                 animateBackgroundColors: Theme.isAnimated
                 animateTextColors: Theme.isAnimated
+
+                onClicked: _zone.chosen(index)
             }
         }
     }

@@ -184,5 +184,7 @@ HomeZone {
         rightPadding: 0
         spacing: 0
         leftIconSource: HomeTheme.icon(_zone.isPaused || _zone.speed !== 1 ? "play" : "pause", 28)
+
+        onClicked: _zone.handleKey(Qt.Key_Return)
     }
 }

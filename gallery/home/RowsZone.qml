@@ -33,6 +33,13 @@ HomeZone {
         return false;
     }
 
+    function click(row: int, column: int) {
+        page.focusedStop = _zone;
+        moveToRow(row);
+        shelf.rows[row].currentIndex = column;
+        chosen(shelf.currentFilm);
+    }
+
     function moveToRow(index: int): bool {
         if (index === shelf.currentIndex)
             return false;
@@ -57,6 +64,8 @@ HomeZone {
         model: _zone.isShown ? _zone.shelf.rows : null
         delegate: FilmBlock {
             isZoneActive: _zone.isActive
+
+            onClicked: column => _zone.click(index, column)
         }
 
         onModelChanged: {

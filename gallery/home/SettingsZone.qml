@@ -38,6 +38,7 @@ HomeZone {
     component Box: Generic.CheckBox {
         id: _box
 
+        focusPolicy: Qt.NoFocus
         focused: _zone.isActive && _zone.focusedItem === _box
         width: 640 * _zone.ratio
         height: 60 * _zone.ratio
@@ -51,6 +52,11 @@ HomeZone {
         iconColors: HomeTheme.boxTitles
         titleFont: HomeTheme.enlarged(HomeTheme.button)
         titleColors: HomeTheme.boxTitles
+
+        onPressed: {
+            _zone.page.focusedStop = _zone;
+            _zone.currentIndex = _zone.boxes.indexOf(_box);
+        }
 
         background: Generic.Rectangle {
             color: _box.focused ? Theme.raised : Theme.panel

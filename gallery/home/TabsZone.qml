@@ -45,6 +45,7 @@ HomeZone {
                 required property int index
                 required property FilmShelf modelData
 
+                focusPolicy: Qt.NoFocus
                 focused: _zone.isActive && _zone.currentIndex === index
                 checked: _zone.openIndex === index
                 leftPadding: 22
@@ -61,6 +62,10 @@ HomeZone {
                 animateBackgroundColors: Theme.isAnimated
                 animateTextColors: Theme.isAnimated
 
+                onPressed: {
+                    _zone.page.focusedStop = _zone;
+                    _zone.currentIndex = index;
+                }
                 onClicked: _zone.openIndex = index
 
                 // The open tab has its colours in focus too.

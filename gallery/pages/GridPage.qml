@@ -125,6 +125,15 @@ GalleryPage {
 
             width: _grid.elementWidth
             height: _grid.elementHeight
+
+            TapHandler {
+                onTapped: {
+                    _page.focusedStop = _grid;
+                    _grid.currentIndex = _tile.index;
+                    _page.activate();
+                }
+            }
+
             states: [
                 State {
                     name: "normal"

@@ -110,6 +110,7 @@ GalleryPage {
             currentField = field;
     }
     onCurrentFieldChanged: showKeyboard()
+    onActivated: editField()
     Component.onCompleted: showKeyboard()
 
     function showKeyboard() {
@@ -174,6 +175,16 @@ GalleryPage {
             return true;
         }
         return false;
+    }
+
+    /*! A click on the keyboard is for the field of which it is. */
+    function pressKeyAt(position: point) {
+        const key = _keyboard.childAt(position.x, position.y) as Generic.Key;
+        if (!key?.isInteractive)
+            return;
+        editField();
+        _navigation.focusKey(_navigation.keys().indexOf(key));
+        _keyboard.processKeyActivated(_navigation.currentIndex());
     }
 
     /*! For pictures: presses the first key that is sought. */
@@ -294,6 +305,11 @@ GalleryPage {
 
             anchors.horizontalCenter: parent.horizontalCenter
             y: 14
+
+            TapHandler {
+                onTapped: point => _page.pressKeyAt(point.position)
+            }
+
             // As large as the panel lets each layout be.
             keyWidth: (812 - (columns - 1) * columnSpacing) / columns
             keyHeight: Math.min(64, (264 - (rows - 1) * rowSpacing) / rows)
