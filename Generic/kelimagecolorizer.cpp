@@ -90,8 +90,8 @@ struct Recoloring
 QImage shared(const Recoloring &recoloring, const QImage &picture)
 {
     // Bytes; an icon has up to 128 × 128 pixels.
-    constexpr qsizetype largestIcon = 64 * 1024;
-    constexpr qsizetype maximumSize = 1024 * 1024;
+    constexpr qsizetype largestIcon = 1 << 16;
+    constexpr qsizetype maximumSize = 1 << 20;
     static QCache<Recoloring, QImage> icons(maximumSize);
     if (const QImage *known = icons.object(recoloring))
         return *known;

@@ -134,7 +134,7 @@ void KelRunningSums::add(qsizetype index, qint64 difference)
 qint64 KelRunningSums::sum(qsizetype count) const
 {
     qint64 result = 0;
-    for (size_t place = size_t(count); place > 0; place &= place - 1)
+    for (auto place = size_t(count); place > 0; place &= place - 1)
         result += m_sums[place - 1];
     return result;
 }
@@ -159,7 +159,7 @@ KelLineMetrics::KelLineMetrics(const QFont &font)
     m_lineHeight = empty.boundingRect().height();
     // An upper bound for what moves letters apart, on average.
     m_kerning = QFontInfo(font).pixelSize() / 16.0;
-    for (const QChar letter : u"xЖλ"_s) {
+    for (const QChar letter : QStringView(u"xЖλ")) {
         if (isUsual(letter))
             m_neighbors += letter;
     }
@@ -370,7 +370,7 @@ int KelLargeTextPrivate::viewportHeight() const
     return toPixels(q->height());
 }
 
-void KelLargeTextPrivate::publishScrollMaximum()
+void KelLargeTextPrivate::publishScrollMaximum() const
 {
     q->setScrollMaximum(saturated(qint64(contentHeight()) - viewportHeight()));
 }

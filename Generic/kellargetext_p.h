@@ -100,7 +100,7 @@ public:
     void prepare(qsizetype index);
     //! Whether the pieces up to this one reach the bottom of the item.
     bool fillsViewport(qsizetype index) const;
-    void publishScrollMaximum();
+    void publishScrollMaximum() const;
     //! Fills empty places, and keeps to others.
     void draw(QPainter &painter, const QColor &color, Places &places);
 

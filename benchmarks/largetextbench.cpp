@@ -371,7 +371,7 @@ void measurePasses(Table &table, qsizetype bytes)
     }
     if (wantsText || wantsWhole) {
         const double theirs =
-            shortestToShow(theirText, "text", "y", [&] { return text; }, bytes > megabyte ? 1 : 3);
+            shortestToShow(theirText, "text", "y", [&] { return QVariant(text); }, bytes > megabyte ? 1 : 3);
         if (wantsText)
             addRatio(table, stay + u"Text"_s, ours.longest, theirs, 0.02);
         if (wantsWhole)

@@ -6,6 +6,7 @@
 #include <QtQml/QQmlApplicationEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include "../../gallery/animationclock.h"
@@ -418,7 +419,8 @@ void tst_home::storyIsRead_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<bool>("isTextLarge");
-    for (const QString &code : Language::codes()) {
+    const QStringList codes = Language::codes();
+    for (const QString &code : codes) {
         QTest::addRow("%s", qPrintable(code)) << code << false;
         QTest::addRow("%s, large", qPrintable(code)) << code << true;
     }
@@ -619,20 +621,18 @@ void tst_home::restsWhereNothingMoves()
         else
             press(key);
     }
-    int frames = 0;
-    connect(m_window, &QQuickWindow::afterRendering, this, [&frames] { ++frames; });
+    QSignalSpy frames(m_window, &QQuickWindow::afterRendering);
     const auto framesDrawn = [&](int times) {
-        frames = 0;
+        frames.clear();
         for (int i = 0; i < times; ++i) {
             pass(50);
             QTest::qWait(5);
         }
-        return frames;
+        return int(frames.count());
     };
     if (!isMoving)
         QTRY_COMPARE(framesDrawn(4), 0);
     QCOMPARE(framesDrawn(20) > 0, isMoving);
-    m_window->disconnect(this);
 }
 
 void tst_home::speedChanges_data()

@@ -159,7 +159,8 @@ void tst_pages::everyStopIsReached()
     QSet<QQuickItem *> visited;
     for (int i = 0; i < patience && visited.size() < stops().size(); ++i) {
         QQuickItem *before = focused();
-        press(before ? arrows.at(random() % arrows.size()) : isInTabs() ? Qt::Key_Down : Qt::Key_Right);
+        const Qt::Key back = isInTabs() ? Qt::Key_Down : Qt::Key_Right;
+        press(before ? arrows.at(random() % arrows.size()) : back);
         if (QTest::currentTestFailed())
             return;
         QVERIFY(before || focused());

@@ -298,7 +298,8 @@ struct Canvas
 {
     QSize size = {220, 160};
     double ratio = 1;
-    QTransform transform = {};
+    // Callers that leave it out would be warned of without it.
+    QTransform transform = {}; // NOLINT(readability-redundant-member-init)
     int dotsPerMeter = 0;
 };
 
@@ -375,7 +376,7 @@ public:
     QString lastOperation() const { return m_operation; }
 
 private:
-    int number(int below) { return int(m_random.bounded(below)); }
+    int number(int below) { return m_random.bounded(below); }
     template <typename Value>
     Value oneOf(const QList<Value> &values)
     {
@@ -452,7 +453,7 @@ void Walk::step()
     }
     case 1:
     case 2: {
-        const double width = oneOf<double>({0, -5, 0.9, 40.7, 150, 200, 333.3, 1e12, -1e12, notANumber});
+        const auto width = oneOf<double>({0, -5, 0.9, 40.7, 150, 200, 333.3, 1e12, -1e12, notANumber});
         m_operation = u"width %1"_s.arg(width);
         m_item.setWidth(width);
         m_plain.width = m_item.width();
@@ -460,7 +461,7 @@ void Walk::step()
         break;
     }
     case 3: {
-        const double height =
+        const auto height =
             oneOf<double>({0, -3, 50.9, 100, 100, 160, 300, 1e12, -1e12, infinity, notANumber});
         m_operation = u"height %1"_s.arg(height);
         m_item.setHeight(height);
@@ -484,7 +485,7 @@ void Walk::step()
         break;
     }
     case 7: {
-        const double scrollStep =
+        const auto scrollStep =
             oneOf<double>({0.3, 0.3 + 1e-16, 0, 0.5, 1, -0.5, 1e12, -1e12, infinity, notANumber});
         m_operation = u"step %1"_s.arg(scrollStep);
         m_item.setScrollStep(scrollStep);
@@ -492,7 +493,7 @@ void Walk::step()
         break;
     }
     case 8: {
-        const double maximum = oneOf<double>({0, 12.9, -12.9, 1e12, -1e12, notANumber, double(anyInt())});
+        const auto maximum = oneOf<double>({0, 12.9, -12.9, 1e12, -1e12, notANumber, double(anyInt())});
         m_operation = u"maximum %1"_s.arg(maximum);
         m_item.setProperty("scrollMaximum", maximum);
         m_plain.setScrollMaximum(maximum);
@@ -508,7 +509,7 @@ void Walk::step()
         break;
     }
     case 12: {
-        const QString lineBreak = oneOf<QString>({u""_s, u"\n"_s, u"о"_s, u" word"_s});
+        const auto lineBreak = oneOf<QString>({u""_s, u"\n"_s, u"о"_s, u" word"_s});
         m_operation = u"line break "_s + lineBreak;
         // Each change doubles what there is.
         if (m_plain.pieces.size() < 300) {
@@ -530,7 +531,7 @@ void Walk::step()
         break;
     }
     case 15: {
-        const QColor color = oneOf<QColor>({Qt::red, QColor(0, 0, 255, 100), QColor(), Qt::black});
+        const auto color = oneOf<QColor>({Qt::red, QColor(0, 0, 255, 100), QColor(), Qt::black});
         m_operation = u"color "_s + color.name(QColor::HexArgb);
         m_item.setColor(color);
         m_plain.setColor(color);
