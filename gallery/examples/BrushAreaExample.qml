@@ -6,5 +6,5 @@ Kelui.BrushArea {
     width: 320
     height: 200
     // Brushes come from C++: a QBrush property of an object of the application.
-    brush: Brushes.sunset
+    brush: Brushes.sunset // qmllint disable missing-type
 }
