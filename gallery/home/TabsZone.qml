@@ -9,7 +9,7 @@ import Kelui.UI.Qml.Controls.Generic as Generic
 HomeZone {
     id: _zone
 
-    required property list<FilmShelf> shelves
+    required property HomeShelves shelves
     property int currentIndex: 0
     /*! The tab that is open. */
     property int openIndex: 0
@@ -37,7 +37,7 @@ HomeZone {
         Repeater {
             id: _tabs
 
-            model: _zone.shelves
+            model: _zone.shelves.films
 
             Generic.TabButton {
                 id: _tab

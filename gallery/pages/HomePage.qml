@@ -277,7 +277,7 @@ GalleryPage {
             x: HomeTheme.sideMargin
             y: 112
             isShown: _menu.section === 1
-            shelves: _page.shelves.films
+            shelves: _page.shelves
             above: _menu
             below: _films
             back: _menu
