@@ -17,7 +17,11 @@ Canvas {
     /*! By how much the arc is turned, in whole degrees. */
     property int rotationDeg: 0
     /*! The arc is painted anew when this changes, and at no other change. */
-    readonly property int updateCondition: startDeg + endDeg + rotationDeg
+    readonly property int updateCondition: {
+        const sum = startDeg + endDeg + rotationDeg;
+        // Wraps where the angles are extreme; Qt's own conversion to an int overflows there.
+        return sum - Math.floor((sum + 2147483648) / 4294967296) * 4294967296;
+    }
 
     width: 100
     height: 100
