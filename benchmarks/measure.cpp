@@ -63,17 +63,22 @@ void Table::print() const
     }
 }
 
-Row timed(const QString &name, double goal, const Work &ours, const Work &theirs, int rounds)
+Row timed(
+    const QString &name, double goal, const Work &ours, const Work &theirs, int rounds, const Work &after)
 {
-    const int ourTimes = repetitions(ours);
-    const int theirTimes = repetitions(theirs);
+    const int ourTimes = after ? 1 : repetitions(ours);
+    const int theirTimes = after ? 1 : repetitions(theirs);
     std::vector<double> our;
     std::vector<double> their;
     std::vector<double> ratios;
     for (int i = 0; i < rounds; ++i) {
         // Each goes first every other time.
         double first = microseconds(i % 2 ? ours : theirs, i % 2 ? ourTimes : theirTimes);
+        if (after)
+            after();
         double second = microseconds(i % 2 ? theirs : ours, i % 2 ? theirTimes : ourTimes);
+        if (after)
+            after();
         if (i % 2 == 0)
             std::swap(first, second);
         our.push_back(first);

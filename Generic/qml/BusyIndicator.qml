@@ -11,32 +11,32 @@ Item {
     id: _busyIndicator
 
     /*! Image address of the strip that is played second. It is taken to have as many frames as the first. */
-    property string imageLeft: ""
+    property string imageLeft
     /*! Image address of the strip that is played first. Its height is the side of a frame. */
-    property string imageRight: ""
+    property string imageRight
 
-    property string header: ""
+    property string header
     property font headerFont
     property color headerColor
     /*! Pixels that the header leaves free in the parent's width. */
-    property real headerLeftMargin: 0
-    property real headerRightMargin: 0
+    property real headerLeftMargin
+    property real headerRightMargin
 
-    property string description: ""
+    property string description
     property font descriptionFont
     property color descriptionColor
     /*! Pixels that the description leaves free in the parent's width. */
-    property real descriptionLeftMargin: 0
-    property real descriptionRightMargin: 0
+    property real descriptionLeftMargin
+    property real descriptionRightMargin
 
     /*! Milliseconds that a frame lasts. Must be set: with 0 the first frame stands. */
-    property int animationInterval: 0
+    property int animationInterval
     /*! The frame shown, from 0 to frameCount - 1. */
-    property int currentFrameIndex: 0
+    property int currentFrameIndex
     /*! Frames of both strips, known once the first one is loaded. */
-    property int frameCount: 0
+    property int frameCount
     /*! Frames of one strip. */
-    property int switchingFrame: 0
+    property int switchingFrame
 
     // Deliberately without the width of the description.
     implicitWidth: Math.max(_canvas.width, _header.width)
@@ -51,7 +51,7 @@ Item {
         id: _private
 
         // A label loses its textWidth when it is complete; told again afterwards, it stays.
-        property bool isComplete: false
+        property bool isComplete
         readonly property real room: isComplete ? _busyIndicator.parent?.width ?? NaN : 0
 
         // The viewport's bottom. Not a binding, which would loop: in the item's own height the viewport

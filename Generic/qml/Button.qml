@@ -14,7 +14,7 @@ QQT.Button {
     // Some defaults are numbers: a name would be a binding, evaluated for each button.
 
     /*! Set by the application's own focus logic; selects the "focused" colours. */
-    property bool focused: false
+    property bool focused
 
     /*! Animate changes of the background's colour. */
     property alias animateBackgroundColors: _backgroundAnimation.enabled
@@ -57,10 +57,10 @@ QQT.Button {
     property bool rightIconColored: true
 
     /*! Paddings of the text block, in pixels; deliberately not taken off the room for the texts. */
-    property int textBlockLeftMargin: 0
-    property int textBlockTopMargin: 0
-    property int textBlockRightMargin: 0
-    property int textBlockBottomMargin: 0
+    property int textBlockLeftMargin
+    property int textBlockTopMargin
+    property int textBlockRightMargin
+    property int textBlockBottomMargin
     /*! Pixels between title and subtitle. */
     property int textBlockSpacing: 10
 
@@ -89,7 +89,17 @@ QQT.Button {
 
     implicitWidth: isFixedWidth ? fixedSize.width : _contentBlock.width + leftPadding + rightPadding
     implicitHeight: fixedSize.height
+    leftPadding: 0
+    topPadding: 0
+    rightPadding: 0
+    bottomPadding: 0
     text: _title.text
+
+    // Seldom given: a handler costs a button less than a binding.
+    onTextBlockLeftMarginChanged: _textBlock.leftPadding = textBlockLeftMargin
+    onTextBlockTopMarginChanged: _textBlock.topPadding = textBlockTopMargin
+    onTextBlockRightMarginChanged: _textBlock.rightPadding = textBlockRightMargin
+    onTextBlockBottomMarginChanged: _textBlock.bottomPadding = textBlockBottomMargin
 
     background: KELUIQCG.Rectangle {
         id: _background
@@ -132,8 +142,15 @@ QQT.Button {
                 id: _leftIcon
 
                 anchors.verticalCenter: parent.verticalCenter
-                width: _button.leftIconSize.width > 0 ? _button.leftIconSize.width : undefined
-                height: _button.leftIconSize.height > 0 ? _button.leftIconSize.height : undefined
+                // Each reading of a property is paid for by each button, hence one.
+                width: {
+                    const side = _button.leftIconSize.width;
+                    return side > 0 ? side : undefined;
+                }
+                height: {
+                    const side = _button.leftIconSize.height;
+                    return side > 0 ? side : undefined;
+                }
                 iconColor: _button.stateColor(_button.leftIconColors)
             }
 
@@ -142,10 +159,6 @@ QQT.Button {
 
                 anchors.verticalCenter: parent.verticalCenter
                 width: _title.width
-                leftPadding: _button.textBlockLeftMargin
-                topPadding: _button.textBlockTopMargin
-                rightPadding: _button.textBlockRightMargin
-                bottomPadding: _button.textBlockBottomMargin
                 spacing: _button.textBlockSpacing
 
                 KELUIQCG.Text {
@@ -209,8 +222,14 @@ QQT.Button {
                 id: _rightIcon
 
                 anchors.verticalCenter: parent.verticalCenter
-                width: _button.rightIconSize.width > 0 ? _button.rightIconSize.width : undefined
-                height: _button.rightIconSize.height > 0 ? _button.rightIconSize.height : undefined
+                width: {
+                    const side = _button.rightIconSize.width;
+                    return side > 0 ? side : undefined;
+                }
+                height: {
+                    const side = _button.rightIconSize.height;
+                    return side > 0 ? side : undefined;
+                }
                 iconColor: _button.stateColor(_button.rightIconColors)
             }
         }

@@ -13,7 +13,7 @@ QQT.CheckBox {
     id: _checkBox
 
     /*! Set by the application's own focus logic; selects the "focused" colours. */
-    property bool focused: false
+    property bool focused
     /*! The box alone, for a focus frame around it. */
     readonly property Item frameSourceItem: _indicator
 
@@ -26,7 +26,7 @@ QQT.CheckBox {
     /*! State colours of the box. */
     property var indicatorColors
     /*! Image address of the check icon, which is drawn in its own size and colours. */
-    property string iconPath: ""
+    property string iconPath
     /*! State colours whose alpha is the opacity of the check icon. */
     property var iconColors
     property alias titleFont: _title.font
@@ -37,13 +37,15 @@ QQT.CheckBox {
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     spacing: 24
 
+    onRoundingRadiusChanged: _indicator.roundingRadius = roundingRadius
+
     indicator: KELUIQCG.Rectangle {
         id: _indicator
 
         y: Math.round((_checkBox.height - height) / 2)
         implicitWidth: _checkBox.indicatorSize.width
         implicitHeight: _checkBox.indicatorSize.height
-        roundingRadius: _checkBox.roundingRadius
+        roundingRadius: 9
         color: _checkBox.stateColor(_checkBox.indicatorColors)
 
         Image {

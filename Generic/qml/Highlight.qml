@@ -11,9 +11,9 @@ Item {
     /*! The view to follow. */
     required property ItemView view
     /*! Animate changes of the place; the size jumps. */
-    property bool animationEnabled: false
+    property bool animationEnabled
     /*! Milliseconds. */
-    property int animationDuration: 0
+    property int animationDuration
     /*! The animations themselves, to tune what is not told above. */
     readonly property alias horizontalScrollingAnimation: _horizontalAnimation
     readonly property alias verticalScrollingAnimation: _verticalAnimation

@@ -8,7 +8,7 @@ QQT.Control {
     id: _icon
 
     /*! Address of the image. */
-    property string source: ""
+    property string source
     /*!
         What an iconColor of "transparent" means: true, colour the icon with it (it disappears);
         false, leave the icon as its file draws it.

@@ -10,7 +10,7 @@ QQT.Control {
     /*! What the key does, a KelGlobal.KeyType. */
     property int type: KELUIQCG.KelGlobal.TextKey
     /*! The KelGlobal.KeyboardLayoutType that a layout-change key switches to; of no meaning to other keys. */
-    property int layout: 0
+    property int layout
     /*! Lets the application's navigation tell keys from other items. */
     readonly property bool isInteractive: true
     // Aliases: a keyboard makes dozens of keys at a time, and what is handed on by a binding costs each of them.
@@ -22,7 +22,7 @@ QQT.Control {
     property alias text: _label.text
     property alias textColor: _label.color
     /*! Image address of the icon; an empty one is not seen. */
-    property string imagePath: ""
+    property string imagePath
 
     hoverEnabled: false
 

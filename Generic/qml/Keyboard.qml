@@ -18,7 +18,7 @@ GridLayout {
     property int layout: KELUIQCG.KelGlobal.NumericLayout
 
     /*! Corner radius of the keys in pixels; they draw square corners all the same. */
-    property real keyRoundingRadius: 0
+    property real keyRoundingRadius
     // The defaults that strike the eye ask for colours of the application's own.
     property color keyBackgroundColor: "red"
     property color keyTextColor: "green"
@@ -41,7 +41,7 @@ GridLayout {
     property string capslockDisabledIconPath
 
     /*! Whether letters are typed in upper case. */
-    property bool capslockEnabled: false
+    property bool capslockEnabled
     /*! Columns that the space key takes; set anew with each layout. */
     property int spaceKeyColumnSpan: 5
     /*!

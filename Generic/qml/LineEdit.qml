@@ -19,11 +19,11 @@ QQT.Control {
     property string placeholderText
 
     /*! Set by the application's own focus logic: digits of the remote may arrive, and no error is shown. */
-    property bool focused: false
+    property bool focused
     /*! Whether the text is being edited: the cursor is shown, and keys take effect. */
-    property bool selected: false
+    property bool selected
     /*! Frame the field, unless focused. */
-    property bool error: false
+    property bool error
 
     /*! Corner radius in pixels, handed to the background, which draws square corners all the same. */
     property real roundingRadius: 15
@@ -34,7 +34,7 @@ QQT.Control {
     /*! State colours of the placeholder, and of the text while the field is disabled. */
     property var placeholderTextColors
     /*! Pixels; the frame lies outside the field. */
-    property int errorFrameWidth: 0
+    property int errorFrameWidth
     property color errorFrameColor: "transparent"
 
     /*! Qt.AlignLeft, Qt.AlignHCenter or Qt.AlignRight, of text and placeholder. */
@@ -53,7 +53,7 @@ QQT.Control {
     */
     property int keyboardLayout: KELUIQCG.KelGlobal.NumericLayout
     /*! For the application's use; has no effect here. */
-    property bool keyboardCapslockEnabled: false
+    property bool keyboardCapslockEnabled
     property alias cursorPosition: _input.cursorPosition
 
     implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,

@@ -13,7 +13,7 @@ QQT.Button {
     id: _button
 
     /*! Set by the application's own focus logic. */
-    property bool focused: false
+    property bool focused
     /*! Height of the button in pixels. */
     property real baseHeight: 57
     /*! Height of what is drawn, around the middle of the button. */
@@ -26,13 +26,13 @@ QQT.Button {
     /*! Milliseconds. */
     property int backgroundColorsAnimationDuration: 125
     /*! An Easing type. */
-    property int backgroundColorsAnimationEasingType: Easing.Linear
+    property int backgroundColorsAnimationEasingType: 0 // Easing.Linear
     /*! Curve for Easing.BezierSpline; not used with other types. */
     property list<real> backgroundColorsAnimationBezierInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
     /*! Milliseconds. */
     property int textColorsAnimationDuration: 125
     /*! An Easing type. */
-    property int textColorsAnimationEasingType: Easing.Linear
+    property int textColorsAnimationEasingType: 0 // Easing.Linear
     /*! Curve for Easing.BezierSpline; not used with other types. */
     property list<real> textColorsAnimationBezierInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
 
@@ -51,11 +51,11 @@ QQT.Button {
     ]
 
     /*! Image address. */
-    property string rightIconSource: ""
+    property string rightIconSource
     /*! Size of the picture in pixels, in which it is decoded as well. Must be set where there is a picture. */
     property size rightIconSize
     /*! Corner radius in pixels; accepted, not drawn without OpenGL. */
-    property int rightIconRoundingRadius: 0
+    property int rightIconRoundingRadius
 
     property alias textFont: _text.font
     property list<color> textColors: [

@@ -13,11 +13,11 @@ Item {
     id: _rewindIcon
 
     /*! Image address of the arrow, read once at creation; mirrored for rewind. */
-    property string source: ""
+    property string source
     /*! Positive plays forward, negative back; with 0, and beyond 1000, nothing moves. */
     property int speed: 1
     /*! The arrow that is lit; iconCount for none. */
-    property int currentIcon: 0
+    property int currentIcon
     /*! How many arrows the light runs through; there are three. */
     property int iconCount: 3
     /*! Opacity of the lit arrow, and of the others. */

@@ -9,12 +9,12 @@ GridView {
     id: _view
 
     /*! Pixels between columns. */
-    property real horizontalSpacing: 0
+    property real horizontalSpacing
     /*! Pixels between rows. */
-    property real verticalSpacing: 0
+    property real verticalSpacing
     /*! Size of an element in pixels. */
-    property real elementWidth: 0
-    property real elementHeight: 0
+    property real elementWidth
+    property real elementHeight
     /*! For the application's use. */
     property var mediaBlockItem
 

@@ -37,8 +37,8 @@ ListView {
     QtObject {
         id: _private
 
-        property bool currentItemOnTheBeginEdge: false
-        property bool currentItemOnTheEndEdge: false
+        property bool currentItemOnTheBeginEdge
+        property bool currentItemOnTheEndEdge
         property Item previousItem: null
 
         // Where the content stands now, before the view scrolls to the new item.

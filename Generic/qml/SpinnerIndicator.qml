@@ -12,10 +12,10 @@ Canvas {
     /*! Colour of the arc. */
     property color foregroundColor: "#ffffff"
     /*! Where the arc starts and ends, in whole degrees clockwise from the top, before it is turned. */
-    property int startDeg: 0
+    property int startDeg
     property int endDeg: 5
     /*! By how much the arc is turned, in whole degrees. */
-    property int rotationDeg: 0
+    property int rotationDeg
     /*! The arc is painted anew when this changes, and at no other change. */
     readonly property int updateCondition: {
         const sum = startDeg + endDeg + rotationDeg;

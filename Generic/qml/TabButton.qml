@@ -8,29 +8,29 @@ QQT.TabButton {
     id: _tabButton
 
     /*! Kept for the application; has no effect here. */
-    property bool selected: false
+    property bool selected
     /*! Set by the application's own focus logic. */
-    property bool focused: false
+    property bool focused
 
     /*! Animate changes of the background's colour. */
-    property bool animateBackgroundColors: false
+    property alias animateBackgroundColors: _backgroundAnimation.enabled
     /*! Animate changes of the text's colour. */
-    property bool animateTextColors: false
+    property alias animateTextColors: _textAnimation.enabled
     /*! Milliseconds. */
     property int backgroundColorsAnimationDuration: 125
     /*! An Easing type. */
-    property int backgroundColorsAnimationEasingType: Easing.Linear
+    property int backgroundColorsAnimationEasingType: 0 // Easing.Linear
     /*! Curve for Easing.BezierSpline; not used with other types. */
     property list<real> backgroundColorsBezierAnimationInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
     /*! Milliseconds. */
     property int textColorsAnimationDuration: 125
     /*! An Easing type. */
-    property int textColorsAnimationEasingType: Easing.Linear
+    property int textColorsAnimationEasingType: 0 // Easing.Linear
     /*! Curve for Easing.BezierSpline; not used with other types. */
     property list<real> textColorsBezierAnimationInterpolator: KELUIQCG.AnimationInterpolators.linearInterpolator
 
     /*! Corner radius in pixels, handed to the background, which draws square corners all the same. */
-    property real roundingRadius: 9
+    property alias roundingRadius: _background.roundingRadius
     // All the same on purpose: the application gives each state its colours.
     property color backgroundColor: "#000000"
     property color textColor: "#FFFFFF"
@@ -40,9 +40,9 @@ QQT.TabButton {
     property color backgroundSelectedColor: "#000000"
     property color textSelectedColor: "#FFFFFF"
     /*! Pixels; a longer text widens the tab. */
-    property real minimumWidth: 0
+    property real minimumWidth
     /*! The height in pixels. Must be set. */
-    property real minimumHeight: 0
+    property real minimumHeight
 
     implicitWidth: Math.max(minimumWidth, _contentItem.width + leftPadding + rightPadding)
     implicitHeight: minimumHeight
@@ -69,7 +69,9 @@ QQT.TabButton {
         text: _tabButton.text
 
         Behavior on color {
-            enabled: _tabButton.animateTextColors
+            id: _textAnimation
+
+            enabled: false
 
             ColorAnimation {
                 duration: _tabButton.textColorsAnimationDuration
@@ -84,13 +86,15 @@ QQT.TabButton {
         id: _background
 
         anchors.fill: parent
-        roundingRadius: _tabButton.roundingRadius
+        roundingRadius: 9
         color: _tabButton.checked ? _tabButton.backgroundSelectedColor
                : _tabButton.focused ? _tabButton.backgroundFocusedColor
                : _tabButton.backgroundColor
 
         Behavior on color {
-            enabled: _tabButton.animateBackgroundColors
+            id: _backgroundAnimation
+
+            enabled: false
 
             ColorAnimation {
                 duration: _tabButton.backgroundColorsAnimationDuration

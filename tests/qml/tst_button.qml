@@ -168,6 +168,22 @@ Item {
             tryCompare(subtitle, "y", 2 + title.height + 6);
         }
 
+        function test_textBlockFollowsItsMargins() {
+            const button = create({ titleText: "Title" });
+            const { textBlock } = parts(button);
+            button.textBlockLeftMargin = 1;
+            button.textBlockTopMargin = 2;
+            button.textBlockRightMargin = 3;
+            button.textBlockBottomMargin = 4;
+            compare([textBlock.leftPadding, textBlock.topPadding, textBlock.rightPadding, textBlock.bottomPadding],
+                    [1, 2, 3, 4]);
+        }
+
+        function test_paddingOfAllSidesHasNoEffect() {
+            const button = create({ padding: 10, horizontalPadding: 10 });
+            compare([button.leftPadding, button.topPadding, button.rightPadding, button.bottomPadding], [0, 0, 0, 0]);
+        }
+
         function test_textsFollowTheirProperties() {
             const button = create({ titleText: "Title", subtitleText: "Sub",
                                     titleFont: Qt.font({ family: "DejaVu Sans", pixelSize: 20 }),

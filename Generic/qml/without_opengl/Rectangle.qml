@@ -8,9 +8,9 @@ QQ.Rectangle {
     id: _control
 
     /*! Round the corners by roundingRadius. */
-    property bool forceRounding: false
+    property bool forceRounding
     /*! Corner radius in pixels, drawn only while forceRounding is set. */
-    property real roundingRadius: 0
+    property real roundingRadius
 
     radius: forceRounding ? roundingRadius : 0
 }

@@ -9,11 +9,11 @@ Image {
     id: _control
 
     /*! Corner radius in pixels. */
-    property real roundingRadius: 0
+    property real roundingRadius
     /*! Edges that stay square. */
-    property int notRoundedEdges: 0
+    property int notRoundedEdges
     /*! Width in pixels to which the image is clipped. */
-    property real clippingWidth: 0
+    property real clippingWidth
     /*! Height in pixels to which the image is clipped. */
-    property real clippingHeight: 0
+    property real clippingHeight
 }
