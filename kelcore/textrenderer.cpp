@@ -72,6 +72,23 @@ int shownHeight(const QPainter &painter)
     return int(painter.deviceTransform().inverted().mapRect(area).height());
 }
 
+//! The thread that shaped a text. Its glyphs are good for this thread alone, and die with it.
+class Shaper
+{
+public:
+    bool isHere() const { return !m_thread.owner_before(here()) && !here().owner_before(m_thread); }
+
+private:
+    static const std::shared_ptr<char> &here()
+    {
+        thread_local const auto mark = std::make_shared<char>();
+        return mark;
+    }
+
+    // Known from a later thread even where that has the same address.
+    std::weak_ptr<char> m_thread = here();
+};
+
 //! "…", shaped in a font.
 struct Ellipsis
 {
@@ -201,6 +218,10 @@ struct TextRenderer::Picture
         QGlyphRun glyphs;
     };
 
+    //! What is shown, to be shaped again by another thread.
+    QString text;
+    QFont font;
+    Shaper shaper;
     std::vector<Run> runs;
     //! Lines under, through and over the text.
     std::vector<QRect> decorations;
@@ -375,6 +396,8 @@ struct TextRenderer::Layout
     std::shared_ptr<const Picture> picture() const
     {
         auto result = std::make_shared<Picture>();
+        result->text = text;
+        result->font = font;
         for (const Line &line : lines) {
             const bool isCut = cut && &line == &lines.back();
             addLine(line, isCut ? &*cut : nullptr, *result);
@@ -386,6 +409,7 @@ struct TextRenderer::Layout
 
     const QString text;
     const QFont font;
+    const Shaper shaper;
 
 private:
     bool hasLimit() const { return width < maximumExtent; }
@@ -758,20 +782,26 @@ void TextRenderer::draw(QPainter &painter) const
 
 void TextRenderer::makePicture() const
 {
-    if (m_picture || !(m_layout || m_label))
+    if (m_picture && m_picture->shaper.isHere())
         return;
-    if (m_label)
+    const auto shapeAgain = [this](const auto &shown) {
+        Layout layout(shown.text, shown.font);
+        Fit fit = m_fit;
+        layout.breakLines(fit);
+        return layout.picture();
+    };
+    if (m_label && m_label->picture && m_label->picture->shaper.isHere())
         m_picture = m_label->picture;
-    if (!m_picture) {
-        if (!m_layout) {
-            m_layout = std::make_unique<Layout>(m_label->text, m_label->font);
-            Fit fit = m_fit;
-            m_layout->breakLines(fit);
-        }
+    else if (m_layout && m_layout->shaper.isHere())
         m_picture = m_layout->picture();
-        if (m_label && Kept::instance())
-            m_label->picture = m_picture;
-    }
+    else if (m_layout)
+        m_picture = shapeAgain(*m_layout);
+    else if (m_label)
+        m_picture = shapeAgain(*m_label);
+    else if (m_picture)
+        m_picture = shapeAgain(*m_picture);
+    if (m_label && Kept::instance())
+        m_label->picture = m_picture;
     // What is shown seldom changes its lines afterwards; shaping it again then costs less than keeping it.
     m_layout.reset();
     m_label.reset();

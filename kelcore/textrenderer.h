@@ -53,7 +53,8 @@ namespace kelcore {
     - Vertical, within the available height, without one within the area that the painter shows: centre
       wins over bottom, bottom over top. A block higher than that starts at its top.
 
-    Copies share what is drawn; a copy can be drawn in another thread while the original is changed.
+    Copies share what is drawn; a copy can be drawn in another thread while the original is changed. A thread
+    shapes what it draws itself, as glyphs are of no use to another or after its end.
 */
 class KELCORE_EXPORT TextRenderer
 {

@@ -258,6 +258,34 @@ private Q_SLOTS:
         QCOMPARE(pictureOfLabel(third), anew);
     }
 
+    //! Threads that render come and go with their windows, and take their glyphs with them.
+    void drawnByThreadsThatEnd()
+    {
+        for (const QString &text : {u"Short"_s, u"A label that is too long to be kept for others"_s}) {
+            const auto pictureOfLabel = [](const TextRenderer &renderer) {
+                return pictureOf(renderer, {100, 40});
+            };
+            const Label label{text, 100, 1, Qt::AlignRight | Qt::AlignTop, 0, testFont(17)};
+            const QImage expected = pictureOfLabel(laidOut(label));
+            TextRenderer renderer = laidOut(label);
+            // Not laid out, hence not drawn.
+            renderer.setText(u"Another"_s);
+            for (const bool isHere : {false, false, true, false}) {
+                QImage shown;
+                const auto draw = [&] { shown = pictureOfLabel(renderer); };
+                const std::unique_ptr<QThread> thread(QThread::create(draw));
+                if (isHere)
+                    draw();
+                else
+                    thread->start();
+                QVERIFY(isHere || thread->wait());
+                QCOMPARE(shown, expected);
+            }
+            const TextRenderer copy = renderer;
+            QCOMPARE(pictureOfLabel(copy), expected);
+        }
+    }
+
     void marginsAreAddedAndSaturate()
     {
         const TextRenderer renderer = laidOut({u"Title"_s});
