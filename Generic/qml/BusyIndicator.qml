@@ -40,6 +40,7 @@ Item {
 
     // Deliberately without the width of the description.
     implicitWidth: Math.max(_canvas.width, _header.width)
+    implicitHeight: _private.bottom
 
     onHeightChanged: _private.fit()
     Component.onCompleted: {
@@ -54,12 +55,14 @@ Item {
         property bool isComplete
         readonly property real room: isComplete ? _busyIndicator.parent?.width ?? NaN : 0
 
-        // The viewport's bottom. Not a binding, which would loop: in the item's own height the viewport
-        // is centred in what comes of this, and then fills it.
+        // Of the viewport. Not a binding, which would loop: in the item's own height the viewport is centred
+        // in what comes of this, and then fills it.
+        property real bottom
+
         function fit() {
-            _busyIndicator.implicitHeight = _canvas.height;
-            if (_busyIndicator.height !== _busyIndicator.implicitHeight)
-                _busyIndicator.implicitHeight = _canvas.y + _canvas.height;
+            bottom = _canvas.height;
+            if (_busyIndicator.height !== bottom)
+                bottom = _canvas.y + _canvas.height;
         }
     }
 
@@ -73,7 +76,9 @@ Item {
         onRunningChanged: _busyIndicator.currentFrameIndex = 0
         onTriggered: {
             const next = _busyIndicator.currentFrameIndex + 1;
-            _busyIndicator.currentFrameIndex = next >= _busyIndicator.frameCount ? 0 : next;
+            _busyIndicator.currentFrameIndex = next;
+            if (next >= _busyIndicator.frameCount)
+                _busyIndicator.currentFrameIndex = 0;
         }
     }
 

@@ -42,7 +42,8 @@ QQT.CheckBox {
     indicator: KELUIQCG.Rectangle {
         id: _indicator
 
-        y: Math.round((_checkBox.height - height) / 2)
+        // In the middle, as anchors round it; they would cost more.
+        y: Math.ceil(Math.floor(_checkBox.height) / 2) - Math.ceil(Math.floor(height) / 2)
         implicitWidth: _checkBox.indicatorSize.width
         implicitHeight: _checkBox.indicatorSize.height
         roundingRadius: 9
@@ -66,6 +67,7 @@ QQT.CheckBox {
             id: _title
 
             Layout.leftMargin: _indicator.width + _checkBox.spacing
+            Layout.alignment: Qt.AlignVCenter
             Layout.fillWidth: true
             color: _checkBox.stateColor(_checkBox.titleColors)
             textWidth: width

@@ -29,6 +29,11 @@ QQT.Control {
                             implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
                              implicitContentHeight + topPadding + bottomPadding)
+    topInset: 0
+    leftInset: 0
+    rightInset: 0
+    bottomInset: 0
+    // To ask the ancestors about it costs more than the icon's image, and no icon is pointed at.
     hoverEnabled: false
 
     contentItem: KELUIQCG.RoundedImage {

@@ -13,9 +13,9 @@ GridLayout {
     id: _keyboard
 
     /*! Which keys are offered, a KelGlobal.KeyboardType. A change goes to the first layout of that type. */
-    property int type: KELUIQCG.KelGlobal.NumericKeyboard
+    property int type: 0 // KelGlobal.NumericKeyboard
     /*! What is shown, a KelGlobal.KeyboardLayoutType; a numeric keyboard shows no other than NumericLayout. */
-    property int layout: KELUIQCG.KelGlobal.NumericLayout
+    property int layout: 3 // KelGlobal.NumericLayout
 
     /*! Corner radius of the keys in pixels; they draw square corners all the same. */
     property real keyRoundingRadius
@@ -77,13 +77,13 @@ GridLayout {
     onTypeChanged: processTypeChanged()
     onLayoutChanged: processLayoutChanged()
     // Lists come at creation, and the one shown may be replaced later.
-    onNumericLayoutChanged: processLayoutChanged()
-    onRussianLayoutChanged: processLayoutChanged()
-    onRussianAndNumericLayoutChanged: processLayoutChanged()
-    onEnglishLayoutChanged: processLayoutChanged()
-    onEnglishAndNumericLayoutChanged: processLayoutChanged()
-    onSymbolsLayoutChanged: processLayoutChanged()
-    onSymbolsAndNumericLayoutChanged: processLayoutChanged()
+    onNumericLayoutChanged: _private.show()
+    onRussianLayoutChanged: _private.show()
+    onRussianAndNumericLayoutChanged: _private.show()
+    onEnglishLayoutChanged: _private.show()
+    onEnglishAndNumericLayoutChanged: _private.show()
+    onSymbolsLayoutChanged: _private.show()
+    onSymbolsAndNumericLayoutChanged: _private.show()
 
     QtObject {
         id: _private
@@ -92,13 +92,35 @@ GridLayout {
         /*! The descriptors of the keys shown. */
         property list<string> keys
 
-        function show(keys: list<string>, rows: int, columns: int, spaceKeyColumnSpan: int) {
+        // What the keys shown are of: the last layout and type that go together.
+        property int layout: 3 // KelGlobal.NumericLayout
+        property bool isAlphanumeric
+
+        function showLayout(rows: int, columns: int, spaceKeyColumnSpan: int) {
+            layout = _keyboard.layout;
+            isAlphanumeric = _keyboard.type === KELUIQCG.KelGlobal.AlphanumericKeyboard;
             _keyboard.rows = rows;
             _keyboard.columns = columns;
             _keyboard.spaceKeyColumnSpan = spaceKeyColumnSpan;
-            _private.keys = keys;
+            show();
+        }
+
+        function show() {
+            keys = keysOfLayout();
             _repeater.model = keys;
             widenSpaceKeys();
+        }
+
+        function keysOfLayout(): list<string> {
+            switch (layout) {
+            case KELUIQCG.KelGlobal.RussianLayout:
+                return isAlphanumeric ? _keyboard.russianAndNumericLayout : _keyboard.russianLayout;
+            case KELUIQCG.KelGlobal.EnglishLayout:
+                return isAlphanumeric ? _keyboard.englishAndNumericLayout : _keyboard.englishLayout;
+            case KELUIQCG.KelGlobal.SymbolsLayout:
+                return isAlphanumeric ? _keyboard.symbolsAndNumericLayout : _keyboard.symbolsLayout;
+            }
+            return _keyboard.numericLayout;
         }
 
         // Only these have a place of their own in the grid: an attached object for each key would cost more.
@@ -221,21 +243,21 @@ GridLayout {
     function processLayoutChanged() {
         const isAlphanumeric = type === KELUIQCG.KelGlobal.AlphanumericKeyboard;
         if (layout === KELUIQCG.KelGlobal.NumericLayout) {
-            _private.show(numericLayout, 1, 11, spaceKeyColumnSpan);
+            _private.showLayout(1, 11, spaceKeyColumnSpan);
         } else if (isAlphanumeric || type === KELUIQCG.KelGlobal.AlphabeticKeyboard) {
             const rowCount = isAlphanumeric ? 5 : 4;
             switch (layout) {
             case KELUIQCG.KelGlobal.RussianLayout:
-                _private.show(isAlphanumeric ? russianAndNumericLayout : russianLayout, rowCount, 12, 6);
+                _private.showLayout(rowCount, 12, 6);
                 break;
             case KELUIQCG.KelGlobal.EnglishLayout:
-                _private.show(isAlphanumeric ? englishAndNumericLayout : englishLayout, rowCount, 11, 5);
+                _private.showLayout(rowCount, 11, 5);
                 break;
             case KELUIQCG.KelGlobal.SymbolsLayout:
                 if (isAlphanumeric)
-                    _private.show(symbolsAndNumericLayout, rowCount, 11, 6);
+                    _private.showLayout(rowCount, 11, 6);
                 else
-                    _private.show(symbolsLayout, rowCount, 10, 5);
+                    _private.showLayout(rowCount, 10, 5);
                 break;
             }
         }

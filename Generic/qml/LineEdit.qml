@@ -111,7 +111,7 @@ QQT.Control {
             onXChanged: place()
             onIsWideChanged: {
                 place();
-                visible = visible || isWide;
+                visible = visible || (isWide && _lineEdit.selected);
             }
 
             function place() {
@@ -228,7 +228,12 @@ QQT.Control {
 
         // A character beyond the basic plane is two units of text, which do not stand alone.
         function unitsAt(position: int): int {
-            return _input.text.codePointAt(position) > 0xffff ? 2 : 1;
+            return isHalf(position) && isHalf(position + 1) ? 2 : 1;
+        }
+
+        function isHalf(position: int): bool {
+            const unit = _input.getText(position, position + 1);
+            return unit > "\ud7ff" && unit < "\ue000";
         }
     }
 
@@ -269,7 +274,7 @@ QQT.Control {
     }
 
     /*! Enters a digit of the remote by the rule that keyboardLayout tells of. */
-    function processLetterInput(event: KeyEvent) {
+    function processLetterInput(event: var) {
         if (inputMask !== "" || keyboardLayout === KELUIQCG.KelGlobal.NumericLayout
                 || keyboardLayout === KELUIQCG.KelGlobal.SymbolsLayout)
             return;

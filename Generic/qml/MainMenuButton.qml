@@ -38,17 +38,13 @@ QQT.Button {
 
     /*! Corner radius of the background in pixels. */
     property alias roundingRadius: _background.roundingRadius
-    property list<color> backgroundColors: [
-        Qt.rgba(1.0, 1.0, 1.0, 1.0), Qt.rgba(1.0, 1.0, 1.0, 0.8), Qt.rgba(1.0, 1.0, 1.0, 0.6)
-    ]
+    property list<color> backgroundColors: ["#ffffffff", "#ccffffff", "#99ffffff"]
 
     /*! Image address. */
     property alias leftIconSource: _leftIcon.source
     /*! Kept for the application; the icon has the size of its image. */
     property size leftIconSize: Qt.size(16, 16)
-    property list<color> leftIconColors: [
-        Qt.rgba(0.0, 0.0, 0.0, 1.0), Qt.rgba(0.0, 0.0, 0.0, 0.8), Qt.rgba(0.0, 0.0, 0.0, 0.6)
-    ]
+    property list<color> leftIconColors: ["#ff000000", "#cc000000", "#99000000"]
 
     /*! Image address. */
     property string rightIconSource
@@ -58,9 +54,7 @@ QQT.Button {
     property int rightIconRoundingRadius
 
     property alias textFont: _text.font
-    property list<color> textColors: [
-        Qt.rgba(0.0, 0.0, 0.0, 1.0), Qt.rgba(0.0, 0.0, 0.0, 0.8), Qt.rgba(0.0, 0.0, 0.0, 0.6)
-    ]
+    property list<color> textColors: ["#ff000000", "#cc000000", "#99000000"]
     /*! Pixels between icon, text and picture. */
     property int contentSpacing: 8
 

@@ -69,10 +69,14 @@ Item {
             const count = _rewindIcon.iconCount;
             if (_rewindIcon.speed > 0) {
                 const next = _rewindIcon.currentIcon + 1;
-                _rewindIcon.currentIcon = next > count ? 0 : next;
+                _rewindIcon.currentIcon = next;
+                if (next > count)
+                    _rewindIcon.currentIcon = 0;
             } else {
                 const next = _rewindIcon.currentIcon - 1;
-                _rewindIcon.currentIcon = next < 0 ? count - 1 : next;
+                _rewindIcon.currentIcon = next;
+                if (next < 0)
+                    _rewindIcon.currentIcon = count - 1;
             }
             for (let i = 0; i < count; ++i) {
                 const isLit = i === _rewindIcon.currentIcon;

@@ -161,6 +161,14 @@ Rectangle {
             check(indicator);
         }
 
+        function test_implicitHeightMayBeTheApplications() {
+            const indicator = create({ imageRight: _scene.rightStrip, implicitHeight: 200 });
+            compare(indicator.height, 200);
+            indicator.implicitHeight = Qt.binding(() => _scene.width / 2);
+            compare(indicator.height, _scene.width / 2);
+            compare(parts(indicator).viewport.y, Math.round((_scene.width / 2 - 60) / 2));
+        }
+
         function test_implicitHeightIsTheViewportsBottom_data() {
             return [0, 20, 60, 61, 80, 100, 300].map(height => ({ tag: height, height }));
         }
@@ -313,6 +321,20 @@ Rectangle {
             compare(indicator.currentFrameIndex, 0);
             steps(3, 100);
             compare(indicator.currentFrameIndex, 0);
+        }
+
+        // The step beyond the last frame is taken before it is corrected, also while there are no frames.
+        function test_framesAreSignalledAsTheyAreSet() {
+            const indicator = play();
+            const frames = [];
+            indicator.currentFrameIndexChanged.connect(() => frames.push(indicator.currentFrameIndex));
+            indicator.currentFrameIndex = 14;
+            steps(2, 100);
+            compare(frames, [14, 15, 16, 0]);
+            frames.length = 0;
+            indicator.frameCount = 0;
+            steps(2, 100);
+            compare(frames, [1, 0, 1, 0]);
         }
 
         function test_withoutAnIntervalTheFirstFrameStands() {

@@ -229,6 +229,23 @@ Rectangle {
             fuzzyCompare(title.y + title.height / 2, 50, 0.5);
         }
 
+        function test_indicatorIsInTheMiddle_data() {
+            return [
+                { height: 60, box: 57, y: 1 },
+                { height: 60, box: 61, y: -1 },
+                { height: 60, box: 63, y: -2 },
+                { height: 61, box: 60, y: 1 },
+                { height: 60.4, box: 57, y: 1 },
+                { height: 99, box: 61, y: 19 },
+            ].map(row => Object.assign(row, { tag: row.box + " in " + row.height }));
+        }
+
+        // Where anchors would put it, on whole pixels.
+        function test_indicatorIsInTheMiddle(data) {
+            const box = create({ height: data.height, indicatorSize: Qt.size(20, data.box) });
+            compare(parts(box).indicator.y, data.y);
+        }
+
         function test_corners_data() {
             return [
                 { tag: "square", properties: { roundingRadius: 20 }, radius: 0, corner: "#aa0001" },

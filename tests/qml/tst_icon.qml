@@ -19,6 +19,19 @@ Rectangle {
         KELUIQCG.Icon {}
     }
 
+    Component {
+        id: _framedComponent
+
+        KELUIQCG.Icon {
+            width: 50
+            height: 40
+            background: Rectangle {
+                width: 10
+                height: 12
+            }
+        }
+    }
+
     TestCase {
         name: "Icon"
         when: windowShown
@@ -59,6 +72,14 @@ Rectangle {
             for (const name of ["topInset", "leftInset", "rightInset", "bottomInset", "padding", "leftPadding",
                                 "topPadding", "rightPadding", "bottomPadding"])
                 compare(icon[name], 0, name);
+        }
+
+        // Where insets are set, also to 0, a background takes them from the control whatever size it has.
+        function test_backgroundOfAnySizeFillsTheIcon() {
+            const icon = createTemporaryObject(_framedComponent, _scene);
+            compare([icon.background.width, icon.background.height], [50, 40]);
+            icon.width = 60;
+            compare([icon.background.width, icon.background.height], [60, 40]);
         }
 
         function test_imagePropertiesReachTheImage() {

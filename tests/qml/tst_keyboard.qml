@@ -653,6 +653,36 @@ Rectangle {
             compare(keyboard.rows, 1);
         }
 
+        function test_listsLeaveTheGrid() {
+            const keyboard = create({ columns: 4, rows: 3 });
+            compareScreenAndGrid(screens[0], 3, 4);
+            keyboard.russianLayout = ["not", "seen"];
+            compareScreenAndGrid(screens[0], 3, 4);
+            keyboard.numericLayout = ["own", "keys"];
+            compare(textsOf(keyboard), ["own", "keys"]);
+            compare([keyboard.rows, keyboard.columns], [3, 4]);
+            keyboard.type = alphabetic;
+            compare([keyboard.rows, keyboard.columns], [4, 12]);
+            keyboard.spaceKeyColumnSpan = 3;
+            keyboard.englishLayout = ["not", "seen"];
+            compare(keyboard.spaceKeyColumnSpan, 3);
+
+            function compareScreenAndGrid(screen, rows, columns) {
+                compare(keysOf(keyboard).map(labelOf).join(" "), screen.rows.join(" "));
+                compare([keyboard.rows, keyboard.columns], [rows, columns]);
+            }
+        }
+
+        function test_layoutThatTheTypeHasNotAtCreation_data() {
+            return [russian, english, symbols, 4, -1].map(layout => ({ tag: String(layout), layout }));
+        }
+
+        function test_layoutThatTheTypeHasNotAtCreation(data) {
+            const keyboard = create({ layout: data.layout });
+            compare(keyboard.layout, data.layout);
+            compareScreen(keyboard, screens[0]);
+        }
+
         function test_typeAtCreation_data() {
             return [
                 { tag: "numeric", type: numeric, screen: "numeric" },

@@ -488,6 +488,15 @@ Item {
             compare(state(field), ["a", 1, ""]);
         }
 
+        function test_pendingLetterOfAFieldThatIsNotSelectedShowsNoCursor() {
+            const field = edit({});
+            const { cursor } = parts(field);
+            field.selected = false;
+            field.processLetterInput({ accepted: false, text: "a" });
+            compare(cursor.visible, false);
+            compare(state(field), ["a", 0, "a"]);
+        }
+
         function test_functions_data() {
             return [
                 { tag: "add at the end", text: "ab", at: 2, run: f => f.addText("c"), state: ["abc", 3, ""] },
@@ -857,6 +866,24 @@ Item {
                 wait(0);
                 _scene.clock.step(2000);
             }
+        }
+
+        function test_digitsOfAnyEvent() {
+            const field = edit({ text: "ab" }, 1);
+            const event = { accepted: false, text: "5" };
+            field.processLetterInput(event);
+            compare(event.accepted, true);
+            compare([field.text, field.cursorPosition], ["a5b", 1]);
+        }
+
+        function test_halvesOfPairsAreLetters() {
+            const field = edit({ text: "\ud83dя\ude00" });
+            const positions = [];
+            for (let i = 0; i < 3; ++i) {
+                field.moveCursorToLeft();
+                positions.push(field.cursorPosition);
+            }
+            compare(positions, [2, 1, 0]);
         }
 
         function test_pairsOfUnitsStayWhole() {

@@ -162,6 +162,19 @@ Item {
             }
         }
 
+        // The step beyond the last position is taken before the position is corrected.
+        function test_positionsAreSignalledAsTheyAreSet() {
+            const icon = create({ speed: 1 });
+            const positions = [];
+            icon.currentIconChanged.connect(() => positions.push(icon.currentIcon));
+            steps(4, 1000);
+            compare(positions, [1, 2, 3, 4, 0]);
+            positions.length = 0;
+            icon.speed = -1;
+            steps(2, 1000);
+            compare(positions, [-1, 2, 1]);
+        }
+
         function test_speeds_data() {
             return [
                 { tag: "1", speed: 1, interval: 1000, text: "x1" },
