@@ -200,10 +200,10 @@ void KelImageColorizer::tryColorizeImage()
     const QImage picture = image->image();
     if (picture.isNull())
         return;
-    const QImage result =
-        shared({picture.cacheKey(), m_color.rgba(), m_coloringMethod, m_lastAlpha}, picture);
-    if (m_coloringMethod == DestinationAlpha && m_color.alpha() != 0)
-        m_lastAlpha = m_color.alpha();
+    const QRgb color = m_color.rgba();
+    const QImage result = shared({picture.cacheKey(), color, m_coloringMethod, m_lastAlpha}, picture);
+    if (m_coloringMethod == DestinationAlpha && qAlpha(color) != 0)
+        m_lastAlpha = qAlpha(color);
     // Qt has no public way to give an Image a picture without changing its source. Should this one vanish,
     // an image provider that serves the recoloured picture to the same item takes its place.
     auto *shown = static_cast<QQuickImagePrivate *>(QQuickItemPrivate::get(image));

@@ -6,6 +6,7 @@
 #include <QtCore/QThread>
 #include <QtGui/QFontInfo>
 #include <QtGui/QGlyphRun>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QRawFont>
 #include <QtGui/QTextDocument>
@@ -261,6 +262,13 @@ KelLargeTextPrivate *KelLargeTextPrivate::get(KelLargeText *item)
     return item->d;
 }
 
+//! The same font may be another one, where fonts have come to the application or gone.
+void KelLargeTextPrivate::measureAnew()
+{
+    m_unpreparedMetrics = KelLineMetrics({});
+    m_preparedMetrics = KelLineMetrics({});
+}
+
 void KelLargeTextPrivate::invalidate()
 {
     offset = 0;
@@ -444,6 +452,8 @@ KelLargeText::KelLargeText(QQuickItem *parent)
     : QQuickPaintedItem(parent)
     , d(new KelLargeTextPrivate(this))
 {
+    if (qGuiApp)
+        connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, [this] { d->measureAnew(); });
 }
 
 KelLargeText::~KelLargeText()

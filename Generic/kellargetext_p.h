@@ -89,6 +89,7 @@ public:
     static KelLargeTextPrivate *get(KelLargeText *item);
 
     void invalidate();
+    void measureAnew();
     void resetStaticTexts();
     static void prepareText(QStaticText &piece, int width);
     int contentHeight() const;

@@ -302,6 +302,9 @@ struct TextRenderer::Kept
 
     QHash<QFont, Ellipsis> ellipses;
     QCache<Key, std::shared_ptr<Label>> labels{maximumLabels};
+    //! Counts the changes of the application's fonts: what was shaped before one is not shaped as it would
+    //! be.
+    int fontChanges = 0;
 
     void clear()
     {
@@ -320,8 +323,10 @@ struct TextRenderer::Kept
             application = qApp;
             qAddPostRoutine([] { kept.clear(); });
             if (qGuiApp)
-                QObject::connect(
-                    qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { kept.clear(); });
+                QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] {
+                    kept.clear();
+                    ++kept.fontChanges;
+                });
         }
         return &kept;
     }
@@ -734,6 +739,11 @@ void TextRenderer::setAvailableHeight(int height)
 
 void TextRenderer::relayout()
 {
+    const Kept *kept = Kept::instance();
+    if (kept && m_fontChanges != kept->fontChanges) {
+        m_fontChanges = kept->fontChanges;
+        m_isShaped = false;
+    }
     Fit fit = m_fit;
     fit.width = m_textWidth > 0 ? std::min(m_textWidth, maximumExtent) : maximumExtent;
     fit.maxLines = m_maxLineCount > 0 ? m_maxLineCount : unlimited;

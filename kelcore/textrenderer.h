@@ -86,7 +86,8 @@ public:
     //! The height for vertical alignment; 0 or less (initially 0) means the area that the painter shows.
     void setAvailableHeight(int height);
 
-    //! Lays the text out with the current settings. Text and font unchanged, nothing is shaped again.
+    //! Lays the text out with the current settings. Nothing is shaped again unless text or font changed, or
+    //! fonts were added to the application or removed.
     void relayout();
 
     //! Size of the laid-out lines, with the margins added; saturates at the limits of int.
@@ -138,6 +139,7 @@ private:
     int m_textWidth = unlimited;
     int m_availableHeight = 0;
     bool m_isShaped = false;
+    int m_fontChanges = 0;
     Fit m_fit;
     // The shaped text, to break lines again; absent in copies, before the first relayout and once it was
     // drawn.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QThread>
+#include <QtGui/QFontDatabase>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -283,6 +284,26 @@ private Q_SLOTS:
             }
             const TextRenderer copy = renderer;
             QCOMPARE(pictureOfLabel(copy), expected);
+        }
+    }
+
+    //! A family that is not there yet is shown in another one; a change of the width must not keep that.
+    void fontsThatComeAreShaped()
+    {
+        QFont font(u"Inter"_s);
+        font.setPixelSize(32);
+        const Label shortLabel{u"Title"_s, 1000, 1, Qt::AlignLeft | Qt::AlignTop, 0, font};
+        Label longLabel = shortLabel;
+        longLabel.text = u"A label that is too long to be kept for others"_s;
+        TextRenderer renderers[] = {laidOut(shortLabel), laidOut(longLabel)};
+        QSize before[] = {renderers[0].boundingSize({}), renderers[1].boundingSize({})};
+        QVERIFY(QFontDatabase::addApplicationFont(QStringLiteral(KELUI_FONT)) >= 0);
+        const QSize expected[] = {sizeOf(shortLabel), sizeOf(longLabel)};
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY2(expected[i] != before[i], "Is the font installed?");
+            renderers[i].setTextWidth(900);
+            renderers[i].relayout();
+            QCOMPARE(renderers[i].boundingSize({}), expected[i]);
         }
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QtCore/QMetaProperty>
 #include <QtCore/QRandomGenerator>
+#include <QtGui/QFontDatabase>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QStaticText>
@@ -624,6 +625,7 @@ private Q_SLOTS:
     void lowerMaximumKeepsTheOffset();
 
     void fontChangePreparesNothingAgain();
+    void fontsThatComeAreMeasured();
     void linesArePlainOnceTheyArePrepared();
     void paintsFromTheOffsetOn_data();
     void paintsFromTheOffsetOn();
@@ -1045,6 +1047,27 @@ void tst_LargeText::fontChangePreparesNothingAgain()
     QCOMPARE(item.contentHeight(), 45 * 24 + 5 * high);
     QCOMPARE(item.hidden()->pieces[4].height, high);
     QCOMPARE(item.hidden()->pieces[5].height, 24);
+}
+
+//! A family that is not there yet is measured in another one, for the text that is there then.
+void tst_LargeText::fontsThatComeAreMeasured()
+{
+    QFont font(u"Inter"_s);
+    font.setPixelSize(40);
+    const auto contentHeight = [&font](LargeText &item) {
+        item.setFont(font);
+        item.setText(lines(10));
+        item.prepareAll();
+        return item.contentHeight();
+    };
+    LargeText item(500, 100);
+    const int before = contentHeight(item);
+    QVERIFY(QFontDatabase::addApplicationFont(QStringLiteral(KELUI_FONT)) >= 0);
+    LargeText other(500, 100);
+    const int expected = contentHeight(other);
+    QVERIFY2(expected != before, "Is the font installed?");
+    item.setText({});
+    QCOMPARE(contentHeight(item), expected);
 }
 
 void tst_LargeText::linesArePlainOnceTheyArePrepared()
