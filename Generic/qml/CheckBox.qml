@@ -37,8 +37,6 @@ QQT.CheckBox {
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     spacing: 24
 
-    onRoundingRadiusChanged: _indicator.roundingRadius = roundingRadius
-
     indicator: KELUIQCG.Rectangle {
         id: _indicator
 
@@ -46,7 +44,7 @@ QQT.CheckBox {
         y: Math.ceil(Math.floor(_checkBox.height) / 2) - Math.ceil(Math.floor(height) / 2)
         implicitWidth: _checkBox.indicatorSize.width
         implicitHeight: _checkBox.indicatorSize.height
-        roundingRadius: 9
+        roundingRadius: _checkBox.roundingRadius
         color: _checkBox.stateColor(_checkBox.indicatorColors)
 
         Image {

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <QtCore/QFile>
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQml/QQmlComponent>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include "../../gallery/animationclock.h"
 #include "example.h"
+#include "galleryengine.h"
 #include "language.h"
 #include "propertymodel.h"
 
@@ -80,12 +79,8 @@ void tst_controls::init()
 {
     QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_clock = std::make_unique<AnimationClock>();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_engine->addImportPath(QStringLiteral(KELUI_QML_DIR));
-    m_engine->setInitialProperties({{u"isAnimated"_s, false}, {u"language"_s, u"en"_s}});
-    m_engine->loadFromModule("Kelui.Gallery", "Main");
-    QCOMPARE(m_engine->rootObjects().size(), 1);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+    m_engine = loadGallery({{u"isAnimated"_s, false}, {u"language"_s, u"en"_s}});
+    m_window = windowOf(*m_engine);
     QVERIFY(m_window);
 }
 

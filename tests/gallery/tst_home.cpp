@@ -3,13 +3,12 @@
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QFont>
 #include <QtGui/QKeyEvent>
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include "../../gallery/animationclock.h"
+#include "galleryengine.h"
 #include "language.h"
 
 using namespace Qt::StringLiterals;
@@ -112,11 +111,8 @@ void tst_home::init()
 {
     QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_clock = std::make_unique<AnimationClock>();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_engine->addImportPath(QStringLiteral(KELUI_QML_DIR));
-    m_engine->loadFromModule("Kelui.Gallery", "Main");
-    QCOMPARE(m_engine->rootObjects().size(), 1);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+    m_engine = loadGallery();
+    m_window = windowOf(*m_engine);
     QVERIFY(m_window);
     int index = -1;
     QMetaObject::invokeMethod(m_window, "pageIndex", qReturnArg(index), u"Home"_s);

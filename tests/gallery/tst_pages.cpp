@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQml/QQmlListReference>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
 
 #include <random>
 
 #include "../../gallery/animationclock.h"
+#include "galleryengine.h"
 #include "language.h"
 
 using namespace Qt::StringLiterals;
@@ -56,12 +55,8 @@ void tst_pages::cleanup()
 
 void tst_pages::load(const QString &language)
 {
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_engine->addImportPath(QStringLiteral(KELUI_QML_DIR));
-    m_engine->setInitialProperties({{u"language"_s, language}});
-    m_engine->loadFromModule("Kelui.Gallery", "Main");
-    QCOMPARE(m_engine->rootObjects().size(), 1);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+    m_engine = loadGallery({{u"language"_s, language}});
+    m_window = windowOf(*m_engine);
     QVERIFY(m_window);
 }
 

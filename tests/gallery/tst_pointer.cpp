@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
 
 #include "../../gallery/animationclock.h"
+#include "galleryengine.h"
 
 using namespace Qt::StringLiterals;
 
@@ -72,12 +71,8 @@ void tst_Pointer::init()
 {
     QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_clock = std::make_unique<AnimationClock>();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_engine->addImportPath(QStringLiteral(KELUI_QML_DIR));
-    m_engine->setInitialProperties({{u"isAnimated"_s, false}, {u"language"_s, u"en"_s}});
-    m_engine->loadFromModule("Kelui.Gallery", "Main");
-    QCOMPARE(m_engine->rootObjects().size(), 1);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+    m_engine = loadGallery({{u"isAnimated"_s, false}, {u"language"_s, u"en"_s}});
+    m_window = windowOf(*m_engine);
     QVERIFY(m_window);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQml/QQmlIncubationController>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
 
+#include "galleryengine.h"
 #include "keyrecorder.h"
 #include "language.h"
 #include "remotekeys.h"
@@ -202,12 +201,8 @@ void tst_remotekeys::doesTheSameEverywhere()
     QFETCH(const QString, page);
     QFETCH(const bool, isInMenu);
     QFETCH(const QString, language);
-    QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral(KELUI_QML_DIR));
-    engine.setInitialProperties({{u"isAnimated"_s, false}, {u"language"_s, u"en"_s}});
-    engine.loadFromModule("Kelui.Gallery", "Main");
-    QCOMPARE(engine.rootObjects().size(), 1);
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    const auto engine = loadGallery({{u"isAnimated"_s, false}, {u"language"_s, u"en"_s}});
+    QQuickWindow *const window = windowOf(*engine);
     QVERIFY(window);
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window));
@@ -224,11 +219,11 @@ void tst_remotekeys::doesTheSameEverywhere()
         send(*window, QEvent::KeyRelease, key);
         QCOMPARE(window->property("currentIndex").toInt(), indexOf(page.isEmpty() ? start : page));
         QCOMPARE(window->property("isInMenu").toBool(), isInMenu);
-        QCOMPARE(engine.singletonInstance<Language *>("Kelui.Gallery", "Language")->code(), language);
-        engine.singletonInstance<Language *>("Kelui.Gallery", "Language")->setCode(u"en"_s);
+        QCOMPARE(engine->singletonInstance<Language *>("Kelui.Gallery", "Language")->code(), language);
+        engine->singletonInstance<Language *>("Kelui.Gallery", "Language")->setCode(u"en"_s);
     }
     // Views make their items a few at a time; an engine that ends meanwhile warns.
-    QTRY_COMPARE(engine.incubationController()->incubatingObjectCount(), 0);
+    QTRY_COMPARE(engine->incubationController()->incubatingObjectCount(), 0);
 }
 
 QTEST_MAIN(tst_remotekeys)

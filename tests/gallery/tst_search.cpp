@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include "galleryengine.h"
 #include "language.h"
 
 using namespace Qt::StringLiterals;
@@ -85,12 +84,8 @@ private:
 void tst_search::init()
 {
     QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_engine->addImportPath(QStringLiteral(KELUI_QML_DIR));
-    m_engine->setInitialProperties({{u"isAnimated"_s, false}});
-    m_engine->loadFromModule("Kelui.Gallery", "Main");
-    QCOMPARE(m_engine->rootObjects().size(), 1);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+    m_engine = loadGallery({{u"isAnimated"_s, false}});
+    m_window = windowOf(*m_engine);
     QVERIFY(m_window);
     m_language = m_engine->singletonInstance<Language *>("Kelui.Gallery", "Language");
     QVERIFY(m_language);

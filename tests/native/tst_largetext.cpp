@@ -587,6 +587,27 @@ QString Walk::difference()
     return result;
 }
 
+//! A long text in a window, part of it under another item that repaints by itself.
+struct Covered
+{
+    QQuickWindow window;
+    LargeText item;
+    LargeText above;
+
+    explicit Covered(int coveredHeight)
+        : item(200, 100)
+        , above(30, coveredHeight)
+    {
+        window.setColor(Qt::white);
+        window.resize(200, 100);
+        item.setParentItem(window.contentItem());
+        item.setText(lines(50));
+        above.setParentItem(window.contentItem());
+        above.setText(u" "_s);
+        window.show();
+    }
+};
+
 } // namespace
 
 class tst_LargeText : public QObject
@@ -1163,16 +1184,8 @@ void tst_LargeText::windowShowsWhatIsPainted()
 
 void tst_LargeText::colorWaitsWhereAnotherItemRepaints()
 {
-    QQuickWindow window;
-    window.setColor(Qt::white);
-    window.resize(200, 100);
-    LargeText item(200, 100);
-    item.setParentItem(window.contentItem());
-    item.setText(lines(50));
-    LargeText above(30, 50);
-    above.setParentItem(window.contentItem());
-    above.setText(u" "_s);
-    window.show();
+    Covered covered(50);
+    auto &[window, item, above] = covered;
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
     const QImage black = window.grabWindow();
@@ -1185,16 +1198,8 @@ void tst_LargeText::colorWaitsWhereAnotherItemRepaints()
 
 void tst_LargeText::heightsWaitWhereAnotherItemRepaints()
 {
-    QQuickWindow window;
-    window.setColor(Qt::white);
-    window.resize(200, 100);
-    LargeText item(200, 100);
-    item.setParentItem(window.contentItem());
-    item.setText(lines(50));
-    LargeText above(30, 100);
-    above.setParentItem(window.contentItem());
-    above.setText(u" "_s);
-    window.show();
+    Covered covered(100);
+    auto &[window, item, above] = covered;
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const QImage small = window.grabWindow();
     item.setFont(fontOf(40));
