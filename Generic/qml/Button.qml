@@ -95,11 +95,39 @@ QQT.Button {
     bottomPadding: 0
     text: _title.text
 
-    // Seldom given: a handler costs a button less than a binding.
+    // Handlers, as they cost a button less than bindings, most of all where nothing is given.
     onTextBlockLeftMarginChanged: _textBlock.leftPadding = textBlockLeftMargin
     onTextBlockTopMarginChanged: _textBlock.topPadding = textBlockTopMargin
     onTextBlockRightMarginChanged: _textBlock.rightPadding = textBlockRightMargin
     onTextBlockBottomMarginChanged: _textBlock.bottomPadding = textBlockBottomMargin
+    onLeftIconSizeChanged: {
+        if (leftIconSize.width > 0)
+            _leftIcon.width = leftIconSize.width;
+        else
+            _leftIcon.width = undefined;
+        if (leftIconSize.height > 0)
+            _leftIcon.height = leftIconSize.height;
+        else
+            _leftIcon.height = undefined;
+    }
+    onRightIconSizeChanged: {
+        if (rightIconSize.width > 0)
+            _rightIcon.width = rightIconSize.width;
+        else
+            _rightIcon.width = undefined;
+        if (rightIconSize.height > 0)
+            _rightIcon.height = rightIconSize.height;
+        else
+            _rightIcon.height = undefined;
+    }
+    onTitleAlignmentChanged: {
+        _title.horizontalAlignment = titleAlignment;
+        _title.verticalAlignment = titleAlignment;
+    }
+    onSubtitleAlignmentChanged: {
+        _subtitle.horizontalAlignment = subtitleAlignment;
+        _subtitle.verticalAlignment = subtitleAlignment;
+    }
 
     background: KELUIQCG.Rectangle {
         id: _background
@@ -142,15 +170,6 @@ QQT.Button {
                 id: _leftIcon
 
                 anchors.verticalCenter: parent.verticalCenter
-                // Each reading of a property is paid for by each button, hence one.
-                width: {
-                    const side = _button.leftIconSize.width;
-                    return side > 0 ? side : undefined;
-                }
-                height: {
-                    const side = _button.leftIconSize.height;
-                    return side > 0 ? side : undefined;
-                }
                 iconColor: _button.stateColor(_button.leftIconColors)
             }
 
@@ -164,13 +183,12 @@ QQT.Button {
                 KELUIQCG.Text {
                     id: _title
 
-                    horizontalAlignment: _button.titleAlignment
-                    verticalAlignment: _button.titleAlignment
                     maximumLineCount: 1
                     color: _button.stateColor(_button.titleColors)
-                    visible: text !== ""
+                    visible: false
 
                     onTextChanged: {
+                        _title.visible = text !== "";
                         if (_button.isFixedWidth)
                             _title.textWidth = KELUIQCG.KelGlobal.numberMaxValue;
                     }
@@ -193,13 +211,14 @@ QQT.Button {
                 KELUIQCG.Text {
                     id: _subtitle
 
-                    horizontalAlignment: _button.subtitleAlignment
-                    verticalAlignment: _button.subtitleAlignment
+                    horizontalAlignment: Qt.AlignRight
+                    verticalAlignment: Qt.AlignBottom
                     maximumLineCount: 1
                     color: _button.stateColor(_button.subtitleColors)
-                    visible: text !== ""
+                    visible: false
 
                     onTextChanged: {
+                        _subtitle.visible = text !== "";
                         if (_button.isFixedWidth)
                             _subtitle.textWidth = KELUIQCG.KelGlobal.numberMaxValue;
                     }
@@ -222,14 +241,6 @@ QQT.Button {
                 id: _rightIcon
 
                 anchors.verticalCenter: parent.verticalCenter
-                width: {
-                    const side = _button.rightIconSize.width;
-                    return side > 0 ? side : undefined;
-                }
-                height: {
-                    const side = _button.rightIconSize.height;
-                    return side > 0 ? side : undefined;
-                }
                 iconColor: _button.stateColor(_button.rightIconColors)
             }
         }

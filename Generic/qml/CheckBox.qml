@@ -15,14 +15,14 @@ QQT.CheckBox {
     /*! Set by the application's own focus logic; selects the "focused" colours. */
     property bool focused
     /*! The box alone, for a focus frame around it. */
-    readonly property Item frameSourceItem: _indicator
+    readonly property alias frameSourceItem: _checkBox.indicator
 
     /*! Round the corners of the box by roundingRadius. */
     property alias forceRounding: _indicator.forceRounding
     /*! Pixels. */
     property int roundingRadius: 9
     /*! Size of the box in pixels. */
-    property size indicatorSize: Qt.size(60, 60)
+    property size indicatorSize
     /*! State colours of the box. */
     property var indicatorColors
     /*! Image address of the check icon, which is drawn in its own size and colours. */
@@ -36,6 +36,8 @@ QQT.CheckBox {
     implicitWidth: implicitContentWidth
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     spacing: 24
+    indicatorSize.width: 60
+    indicatorSize.height: 60
 
     indicator: KELUIQCG.Rectangle {
         id: _indicator

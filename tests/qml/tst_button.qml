@@ -187,9 +187,7 @@ Item {
         function test_textsFollowTheirProperties() {
             const button = create({ titleText: "Title", subtitleText: "Sub",
                                     titleFont: Qt.font({ family: "DejaVu Sans", pixelSize: 20 }),
-                                    subtitleFont: Qt.font({ family: "DejaVu Sans", pixelSize: 12 }),
-                                    titleAlignment: Qt.AlignHCenter | Qt.AlignVCenter,
-                                    subtitleAlignment: Qt.AlignRight | Qt.AlignTop });
+                                    subtitleFont: Qt.font({ family: "DejaVu Sans", pixelSize: 12 }) });
             const { title, subtitle } = parts(button);
             compare(title.text, "Title");
             compare(subtitle.text, "Sub");
@@ -197,16 +195,38 @@ Item {
             compare(subtitle.font.pixelSize, 12);
             compare(title.maximumLineCount, 1);
             compare(subtitle.maximumLineCount, 1);
-            // Each value is given to both directions whole, and both keep the flags of their own.
-            compare(title.horizontalAlignment, Qt.AlignHCenter);
-            verify(title.verticalAlignment & Qt.AlignVCenter);
-            compare(subtitle.horizontalAlignment & Qt.AlignRight, Qt.AlignRight);
             compare(button.text, "Title");
             compare(button.subtitle, "Sub");
             button.titleText = "Other";
             button.subtitleText = "Below";
             compare(button.text, "Other");
             compare(button.subtitle, "Below");
+        }
+
+        function alignments(button) {
+            const { title, subtitle } = parts(button);
+            return [title.horizontalAlignment, title.verticalAlignment,
+                    subtitle.horizontalAlignment, subtitle.verticalAlignment];
+        }
+
+        function test_alignment_data() {
+            const rows = [];
+            for (const horizontal of [Qt.AlignLeft, Qt.AlignHCenter, Qt.AlignRight]) {
+                for (const vertical of [Qt.AlignTop, Qt.AlignVCenter, Qt.AlignBottom])
+                    rows.push({ tag: `${horizontal} ${vertical}`, horizontal, vertical });
+            }
+            return rows;
+        }
+
+        function test_alignment({ horizontal, vertical }) {
+            const button = create();
+            compare(alignments(button), [Qt.AlignLeft, Qt.AlignTop, Qt.AlignRight, Qt.AlignBottom]);
+            button.titleAlignment = horizontal | vertical;
+            compare(alignments(button), [horizontal, vertical, Qt.AlignRight, Qt.AlignBottom]);
+            button.subtitleAlignment = horizontal | vertical;
+            compare(alignments(button), [horizontal, vertical, horizontal, vertical]);
+            const other = create({ titleAlignment: horizontal | vertical, subtitleAlignment: horizontal | vertical });
+            compare(alignments(other), [horizontal, vertical, horizontal, vertical]);
         }
 
         function test_emptyTextsAreHidden() {
@@ -220,6 +240,8 @@ Item {
             compare(subtitle.visible, true);
             button.titleText = "";
             compare(title.visible, false);
+            button.subtitleText = "";
+            compare(subtitle.visible, false);
         }
 
         function test_subtitleIsReadOnly() {
