@@ -60,7 +60,7 @@ public:
     Qt::Alignment vAlign() const;
     void setVAlign(Qt::Alignment alignment);
 
-    //! Default: NoWrap. Kept and reported only: textWidth and maximumLineCount decide about lines.
+    //! Default: NoWrap. Kept and reported, wraps nothing: textWidth and maximumLineCount decide about lines.
     Q_PROPERTY(WrapMode wrapMode READ wrapMode WRITE setWrapMode NOTIFY wrapModeChanged FINAL)
     WrapMode wrapMode() const;
     void setWrapMode(WrapMode mode);
@@ -73,7 +73,8 @@ public:
 
     /*!
         The width in which lines are broken, in pixels, truncated to an int; 0 or less, NaN and values beyond
-        the range of int mean no limit. Completion replaces it silently by the item's width.
+        the range of int mean no limit. To begin with, give the item a width: completion silently takes that,
+        and replaces what was given here.
     */
     Q_PROPERTY(double textWidth READ textWidth WRITE setTextWidth NOTIFY textWidthChanged FINAL)
     double textWidth() const;

@@ -14,7 +14,7 @@ QQT.CheckBox {
 
     /*! Set by the application's own focus logic; selects the "focused" colours. */
     property bool focused
-    /*! The box alone, for a focus frame around it. */
+    /*! The box alone, for a focus frame around it: while checked, the colours do not tell of the focus. */
     readonly property alias frameSourceItem: _checkBox.indicator
 
     /*! Round the corners of the box by roundingRadius. */

@@ -22,7 +22,7 @@ GridLayout {
     // The defaults that strike the eye ask for colours of the application's own.
     property color keyBackgroundColor: "red"
     property color keyTextColor: "green"
-    /*! The font of text keys, and of all keys that have no font below. */
+    /*! The font of text keys, and of the space key. */
     property font symbolKeysFont
     /*! The font of the keys that change the layout. */
     property font controlKeysFont

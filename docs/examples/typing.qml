@@ -19,7 +19,7 @@ Window {
         keyboard.processKeyActivated(keys.indexOf(key));
     }
 
-    width: 826; height: 420; visible: true; color: "#0d1117"
+    width: 826; height: 438; visible: true; color: "#0d1117"
     Component.onCompleted: key = keyboard.children[0]
 
     Item {
@@ -43,7 +43,7 @@ Window {
         x: 20; y: 20; width: 786; height: 54; leftPadding: 12; font.pixelSize: 26
         selected: true
         keyboardLayout: keyboard.layout
-        placeholderText: "Поиск"
+        placeholderText: "Search"
         backgroundColors: ({ normal: "#1c2533", selected: "white" })
         textColors: ({ normal: "white", selected: "black", wide: "white" })
         placeholderTextColors: ({ normal: "gray", selected: "gray" })
@@ -54,8 +54,14 @@ Window {
         objectName: "keyboard"
         x: 20; y: 94
         type: Kelui.KelGlobal.AlphanumericKeyboard
-        keyBackgroundColor: "#1c2533"; keyTextColor: "white"; symbolKeysFont.pixelSize: 24
-        // Each icon is an image of yours: backspaceIconPath, leftIconPath, rightIconPath, capslock…IconPath.
+        keyBackgroundColor: "#1c2533"; keyTextColor: "white"
+        symbolKeysFont.pixelSize: 24; controlKeysFont.pixelSize: 20; domainKeysFont.pixelSize: 20
+        // Images of yours; the label of the space key is a translation of yours.
+        backspaceIconPath: Qt.resolvedUrl("../../gallery/assets/icons/key-backspace.svg")
+        leftIconPath: Qt.resolvedUrl("../../gallery/assets/icons/key-left.svg")
+        rightIconPath: Qt.resolvedUrl("../../gallery/assets/icons/key-right.svg")
+        capslockEnabledIconPath: Qt.resolvedUrl("../../gallery/assets/icons/key-capslock-on.svg")
+        capslockDisabledIconPath: Qt.resolvedUrl("../../gallery/assets/icons/key-capslock-off.svg")
         onKeyTextActivated: text => field.addText(text)
         onKeyBackspaceActivated: field.delCurrentSymbol()
         onKeyLeftActivated: field.moveCursorToLeft()

@@ -48,7 +48,7 @@ void tst_hello::arrowsMoveTheFocus()
         const QImage picture = window->grabWindow();
         QList<int> buttons;
         for (int button = 0; button < 3; ++button) {
-            if (picture.pixelColor(30 + (button * 200), 30) == QColor(u"gold"_s))
+            if (picture.pixelColor(30 + (button * 204), 30) == QColor(u"gold"_s))
                 buttons += button;
         }
         return buttons;
