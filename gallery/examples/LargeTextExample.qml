@@ -12,7 +12,7 @@ Row {
         height: 240
         color: "#f3f6fb"
         font.pixelSize: 22
-        text: "В бухте стоял туман, и маяк звонил в колокол.\n".repeat(200)
+        text: "Fog lay over the bay, and the lighthouse rang its bell.\n".repeat(200)
     }
 
     Kelui.ScrollBar {

@@ -10,7 +10,7 @@ Kelui.LineEdit {
     font.family: Application.font.family
     font.pixelSize: 26
     selected: true
-    text: "Северное сияние"
+    text: "Northern lights"
     placeholderText: "Film, channel, person"
     backgroundColors: ({ normal: "#2a3648", selected: "#f3f6fb" })
     textColors: ({ normal: "#f3f6fb", selected: "#14181f", wide: "#f3f6fb" })

@@ -10,6 +10,6 @@ Kelui.Text {
     horizontalAlignment: Qt.AlignLeft
     verticalAlignment: Qt.AlignVCenter
     maximumLineCount: 3
-    text: "Северное сияние над озером: путешествие начинается ночью, "
-          + "когда гаснут огни последней деревни."
+    text: "Northern lights above the lake: the journey begins at night, "
+          + "when the last village has put out its lamps."
 }
