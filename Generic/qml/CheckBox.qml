@@ -66,7 +66,9 @@ QQT.CheckBox {
         KELUIQCG.Text {
             id: _title
 
-            Layout.leftMargin: _indicator.width + _checkBox.spacing
+            // Layouts round widths: beside a fraction the title would get less than it asks for, wrap, and ask for
+            // less, without end.
+            Layout.leftMargin: Math.ceil(_indicator.width + _checkBox.spacing)
             Layout.alignment: Qt.AlignVCenter
             Layout.fillWidth: true
             color: _checkBox.stateColor(_checkBox.titleColors)

@@ -376,6 +376,28 @@ Rectangle {
             compare([box.implicitWidth, box.implicitHeight, title.width, title.textWidth], before);
         }
 
+        function test_fractionsDoNotBreakTheTitle_data() {
+            return [
+                { tag: "spacing", properties: { spacing: 24.3 } },
+                { tag: "indicator", properties: { indicatorSize: Qt.size(60.3, 60) } },
+                { tag: "both", properties: { spacing: 24.3, indicatorSize: Qt.size(60.15, 60) } },
+            ];
+        }
+
+        function test_fractionsDoNotBreakTheTitle(data) {
+            const whole = create({ text: "Title" });
+            const box = create({ text: "Title" });
+            waitForItemPolished(box.contentItem);
+            for (const name in data.properties)
+                box[name] = data.properties[name];
+            for (let pass = 0; pass < 5; ++pass)
+                waitForItemPolished(box.contentItem);
+            const { title } = parts(box);
+            compare([title.implicitWidth, title.implicitHeight],
+                    [parts(whole).title.implicitWidth, parts(whole).title.implicitHeight]);
+            verify(title.width >= title.implicitWidth);
+        }
+
         function test_ownImplicitWidthDoesNotCreep_data() {
             const texts = ["Title", "Several words of a title", "Two\u2028lines", "fi AV Ж й"];
             return texts.map(text => ({ tag: text, text }));
