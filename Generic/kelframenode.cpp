@@ -10,6 +10,9 @@
 
 namespace {
 
+// In pixels, larger than any screen.
+constexpr qreal longest = 1 << 24;
+
 //! What the painter's window and viewport do to its coordinates: nothing in a frame, something in a layer.
 QTransform viewTransform(const QPainter &painter)
 {
@@ -45,8 +48,7 @@ bool KelFrameNode::update(QSGNode *&node, const QQuickPaintedItem &item, const P
     // A picture, once made, stays: the item holds on to its node.
     const bool isPossible =
         api == QSGRendererInterface::Software && hasDefaultRenderSettings(item) && (!node || isFrameNode);
-    // Sides in whole pixels, as those of a picture; larger than any screen, they change nothing.
-    constexpr qreal longest = 1 << 24;
+    // Sides in whole pixels, as those of a picture; longer, they change nothing.
     // Of a number and NaN, these take the number.
     const auto bounded = [](qreal side) { return std::fmin(std::fmax(side, 0.0), longest); };
     const QSize size(qRound(bounded(item.width())), qRound(bounded(item.height())));
@@ -89,7 +91,9 @@ void KelFrameNode::render(const RenderState *state)
 //! The area, with all of the pixels that it touches: painters round a clip that stands between pixels.
 QRect KelFrameNode::clipArea(const QTransform &transform) const
 {
-    if (transform.type() > QTransform::TxTranslate)
+    // Out of sight, the pixels may be too far off for a whole number.
+    const bool isNear = std::abs(transform.dx()) < longest && std::abs(transform.dy()) < longest;
+    if (!isNear || transform.type() > QTransform::TxTranslate)
         return m_area;
     const QRect shown = transform.mapRect(QRectF(m_area)).toAlignedRect();
     return shown.translated(-qRound(transform.dx()), -qRound(transform.dy()));

@@ -884,6 +884,8 @@ void tst_KelText::pictures_data()
     addLabel("centre", "horizontalAlignment: Qt.AlignCenter");
     addLabel("beyond the left and top", "x: -30; y: -8");
     addLabel("beyond the right and bottom", "x: 300; y: 190");
+    addLabel("far to the right", "x: 2147483648");
+    addLabel("far down", "y: 2147483648");
     addLabel("italics", "font.italic: true; text: 'fjord'; font.pixelSize: 40");
 
     // A label smaller than its text cuts it.
