@@ -48,7 +48,7 @@ HomeZone {
         bottomInset: -10 * _zone.ratio
         indicatorSize: Qt.size(48 * _zone.ratio, 48 * _zone.ratio)
         indicatorColors: HomeTheme.boxes
-        iconPath: HomeTheme.icon("check", 36)
+        iconPath: HomeTheme.icon("check", 48)
         iconColors: HomeTheme.boxTitles
         titleFont: HomeTheme.enlarged(HomeTheme.button)
         titleColors: HomeTheme.boxTitles
