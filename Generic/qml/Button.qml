@@ -188,7 +188,7 @@ QQT.Button {
                     visible: false
 
                     onTextChanged: {
-                        _title.visible = text !== "";
+                        _title.visible = _title.text !== "";
                         if (_button.isFixedWidth)
                             _title.textWidth = KELUIQCG.KelGlobal.numberMaxValue;
                     }
@@ -218,7 +218,7 @@ QQT.Button {
                     visible: false
 
                     onTextChanged: {
-                        _subtitle.visible = text !== "";
+                        _subtitle.visible = _subtitle.text !== "";
                         if (_button.isFixedWidth)
                             _subtitle.textWidth = KELUIQCG.KelGlobal.numberMaxValue;
                     }

@@ -33,7 +33,8 @@ QQT.CheckBox {
     /*! State colours of the title. */
     property var titleColors
 
-    implicitWidth: implicitContentWidth
+    // With the paddings, or the title would get less than it asks for, wrap, and ask for less, without end.
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     spacing: 24
     indicatorSize.width: 60

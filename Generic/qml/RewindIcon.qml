@@ -78,7 +78,8 @@ Item {
                 if (next < 0)
                     _rewindIcon.currentIcon = count - 1;
             }
-            for (let i = 0; i < count; ++i) {
+            // Qt warns of each icon that is not there. Of absurdly many, some warnings will do.
+            for (let i = 0; i < Math.min(count, 100); ++i) {
                 const isLit = i === _rewindIcon.currentIcon;
                 _model.setProperty(i, "mirror", _rewindIcon.speed < 0);
                 _model.setProperty(i, "opacity", isLit ? _rewindIcon.currentIconOpacity : _rewindIcon.otherIconOpacity);

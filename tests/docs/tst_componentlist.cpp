@@ -40,7 +40,8 @@ QStringList captures(const QString &pattern, const QString &text)
 void tst_componentlist::namesAll()
 {
     const QDir module(QStringLiteral(KELUI_QML_DIR) + u"/Kelui/UI/Qml/Controls/Generic"_s);
-    QStringList components = captures(uR"(^(?:singleton )?(\w+) 1\.0 qml/)"_s, read(module.filePath(u"qmldir"_s)))
+    QStringList components =
+        captures(uR"(^(?:singleton )?(\w+) 1\.0 qml/)"_s, read(module.filePath(u"qmldir"_s)))
         + captures(uR"(Generic/(\w+) 1\.0")"_s,
             read(module.filePath(u"qmlgenericcontrolsextensionplugin.qmltypes"_s)));
     QStringList listed = captures(uR"(^\| \[(\w+)\])"_s, read(docs + u"/components.md"_s));
@@ -52,7 +53,8 @@ void tst_componentlist::namesAll()
 
 void tst_componentlist::linksLead()
 {
-    for (const QString &link : captures(uR"(\]\(([^)]+)\))"_s, read(docs + u"/components.md"_s)))
+    const QStringList links = captures(uR"(\]\(([^)]+)\))"_s, read(docs + u"/components.md"_s));
+    for (const QString &link : links)
         QVERIFY2(QFile::exists(docs + u'/' + link), qPrintable(link));
 }
 

@@ -200,7 +200,8 @@ Rectangle {
                   height: 99 },
                 { tag: "no indicator", properties: { text: "Title", indicatorSize: Qt.size(0, 0) }, beside: 24 },
                 { tag: "no text", properties: {}, beside: 84, height: 60 },
-                { tag: "paddings do not count", properties: { text: "Title", padding: 30 }, beside: 84, height: 60 },
+                { tag: "paddings", properties: { text: "Title", leftPadding: 7, rightPadding: 4, topPadding: 9 },
+                  beside: 95, height: 60 },
             ];
         }
 
@@ -209,7 +210,7 @@ Rectangle {
             const { title, indicator } = parts(box);
             tryCompare(box, "implicitWidth", title.implicitWidth + data.beside);
             compare(box.implicitHeight, data.height ?? title.implicitHeight);
-            compare(box.implicitWidth, box.contentItem.implicitWidth);
+            compare(box.implicitWidth, box.contentItem.implicitWidth + box.leftPadding + box.rightPadding);
             const size = data.properties.indicatorSize ?? Qt.size(60, 60);
             compare([indicator.width, indicator.height], [size.width, size.height]);
         }
@@ -396,6 +397,14 @@ Rectangle {
             compare([title.implicitWidth, title.implicitHeight],
                     [parts(whole).title.implicitWidth, parts(whole).title.implicitHeight]);
             verify(title.width >= title.implicitWidth);
+        }
+
+        function test_paddingsWithoutAWidthSettle() {
+            const box = create({ text: "Several words of a title", padding: 7 });
+            const changed = createTemporaryObject(_spyComponent, _test,
+                                                  { target: box, signalName: "implicitWidthChanged" });
+            waitForItemPolished(box.contentItem);
+            verify(changed.count < 100, changed.count);
         }
 
         function test_ownImplicitWidthDoesNotCreep_data() {

@@ -291,6 +291,15 @@ Item {
             }
         }
 
+        function test_absurdlyManyIconsDoNotHang() {
+            const icon = create({ iconCount: 2147483647 });
+            for (let warning = 0; warning < 2 * 97; ++warning)
+                ignoreWarning(/ListModel: set: index [0-9]+ out of range/);
+            _scene.clock.step(1000);
+            compare(icon.currentIcon, 1);
+            compare(opacities(icon), [0.5, 1, 0.5]);
+        }
+
         function test_moreIconsWarnAndRun_data() {
             return [
                 { tag: "forward", speed: 1, lit: [1, 2, 3, 4, 5, 0] },
