@@ -112,8 +112,8 @@ constexpr char inherited[] =
 constexpr const char *allowed[] = {
     "QML (Rounded)?Image: (Cannot open|Error decoding): ", "^Broken filename passed to function$",
     // A map of state colours that is none, or lacks a colour.
-    "/(Button|CheckBox|LineEdit)[.]qml:[0-9]+: TypeError: (Value is|Cannot read property '[a-z]+' of)"
-    " (null|undefined)( and could not be converted to an object)?$",
+    ("/(Button|CheckBox|LineEdit)[.]qml:[0-9]+: TypeError: (Value is|Cannot read property '[a-z]+' of)"
+     " (null|undefined)( and could not be converted to an object)?$"),
     "/(Button|LineEdit)[.]qml:[0-9:]+: Unable to assign .* to (QColor|QVariantList)$",
     "/RewindIcon[.]qml:[0-9:]+ QML ListModel: set: index [0-9]+ out of range$",
     "Animation: Cannot set a duration of < 0$", "^QEasingCurve: Invalid ",
