@@ -79,7 +79,8 @@ Item {
                     _rewindIcon.currentIcon = count - 1;
             }
             // Qt warns of each icon that is not there. Of absurdly many, some warnings will do.
-            for (let i = 0; i < Math.min(count, 100); ++i) {
+            const written = Math.min(count, 100);
+            for (let i = 0; i < written; ++i) {
                 const isLit = i === _rewindIcon.currentIcon;
                 _model.setProperty(i, "mirror", _rewindIcon.speed < 0);
                 _model.setProperty(i, "opacity", isLit ? _rewindIcon.currentIconOpacity : _rewindIcon.otherIconOpacity);
