@@ -236,7 +236,7 @@ void measurePair(Table &table, const Pair &pair)
         row.goal = pair.heap;
         table.add(row);
     }
-    constexpr int fewRounds = 25;
+    constexpr int fewRounds = 30;
     if (table.wants(made))
         table.add(timed(
             made, pair.made, [&] { ours.makeAndDelete(); }, [&] { theirs.makeAndDelete(); }, fewRounds));

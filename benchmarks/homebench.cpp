@@ -33,7 +33,7 @@ void measureStart(Table &table)
     const QString name = u"home screen, engine to first frame, against Qt Quick Controls"_s;
     if (!table.wants(name))
         return;
-    table.add(timed(name, 1, [] { showFirstFrame(ourHome); }, [] { showFirstFrame(theirHome); }, 15));
+    table.add(timed(name, 1, [] { showFirstFrame(ourHome); }, [] { showFirstFrame(theirHome); }, 20));
 }
 
 //! Keys at random, ten a second by the clock of the scene, as a child at the remote presses them.

@@ -242,7 +242,7 @@ void measureStep(Table &table)
             continue;
         our.moveToShare(place.share);
         their.moveTo(our.item()->property("offset").toDouble());
-        Row row = timed(name(place), 0.7, [&] { our.walk(); }, [&] { their.walk(); }, 15);
+        Row row = timed(name(place), 0.7, [&] { our.walk(); }, [&] { their.walk(); }, 20);
         row.ours /= walkSteps;
         row.theirs /= walkSteps;
         table.add(row);
@@ -264,7 +264,7 @@ void measureGrowth(Table &table)
             continue;
         large.moveToShare(place.share);
         small.moveToShare(place.share);
-        Row row = timed(name(place), 0.05, [&] { large.walk(); }, [&] { small.walk(); }, 15);
+        Row row = timed(name(place), 0.05, [&] { large.walk(); }, [&] { small.walk(); }, 20);
         row.ours /= walkSteps;
         row.theirs /= walkSteps;
         row.ratio = std::log(row.ratio) / std::log(512.0);
