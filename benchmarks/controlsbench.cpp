@@ -15,7 +15,10 @@ const QByteArray common = R"(
     readonly property var inks: ({ disabled: "#8593a8", checked: "#ffffff", focused: "#14181f", normal: "#f3f6fb" })
 )";
 
-//! A control of the module, the equal one made of Qt Quick Controls, and the goals: made, shown, heap.
+/*!
+    A control of the module, the equal one made of Qt Quick Controls, and the goals: made, shown, heap. The equal
+    one looks the same also with a text that is too long: it cuts it, breaks it or grows with it.
+*/
 struct Pair
 {
     QString name;
@@ -56,12 +59,16 @@ const QByteArray theirButton = R"(
                 anchors.centerIn: parent; spacing: button.spacing
                 IconImage { width: 32; height: 32; source: scene.icon; color: button.ink; anchors.verticalCenter: parent.verticalCenter }
                 Column {
+                    width: Math.min(button.width - 2 * (32 + button.spacing), Math.max(title.implicitWidth, subtitle.implicitWidth))
                     anchors.verticalCenter: parent.verticalCenter; spacing: 10
                     Text {
-                        text: button.text; font: button.font; color: button.ink; elide: Text.ElideRight
+                        id: title
+                        width: parent.width; text: button.text; font: button.font; color: button.ink; elide: Text.ElideRight
                         Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
                     }
                     Text {
+                        id: subtitle
+                        width: parent.width; horizontalAlignment: Text.AlignRight
                         text: button.subtitle; font.pixelSize: 18; color: button.ink; elide: Text.ElideRight
                         Behavior on color { enabled: false; ColorAnimation { duration: 125 } }
                     }
@@ -114,7 +121,7 @@ const QByteArray theirTabButton = R"(
 
         property bool focused: false
 
-        implicitWidth: 120; implicitHeight: 48; padding: 0
+        implicitWidth: Math.max(120, implicitContentWidth); implicitHeight: 48; padding: 0
         text: "Фильмы"; font.pixelSize: 20
         background: Rectangle {
             color: button.checked ? "#000000" : button.focused ? "#000001" : "#000002"
@@ -135,7 +142,7 @@ const QByteArray ourCheckBox = R"(
     }
 )";
 const QByteArray theirTitle = R"(
-    text: box.text; font: box.font; verticalAlignment: Text.AlignVCenter
+    text: box.text; font: box.font; verticalAlignment: Text.AlignVCenter; wrapMode: Text.Wrap
     color: !box.enabled ? "#8593a8" : box.checked ? "#ffffff" : box.focused ? "#14181f" : "#f3f6fb"
 )";
 
