@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QtQml/QQmlApplicationEngine>
+#include <QtQml/QQmlIncubator>
 #include <QtQuick/QQuickWindow>
+#include <QtTest/QTest>
 
 #include <memory>
 
@@ -20,4 +22,15 @@ inline std::unique_ptr<QQmlApplicationEngine> loadGallery(const QVariantMap &pro
 inline QQuickWindow *windowOf(const QQmlApplicationEngine &engine)
 {
     return qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+}
+
+//! Views make their items a few at a time; an engine that ends meanwhile warns.
+inline void endGallery(std::unique_ptr<QQmlApplicationEngine> &engine)
+{
+    const auto isMaking = [&engine] {
+        return engine && engine->incubationController()
+            && engine->incubationController()->incubatingObjectCount() > 0;
+    };
+    QVERIFY(QTest::qWaitFor([&isMaking] { return !isMaking(); }));
+    engine.reset();
 }

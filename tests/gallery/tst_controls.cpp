@@ -86,7 +86,7 @@ void tst_controls::init()
 
 void tst_controls::cleanup()
 {
-    m_engine.reset();
+    endGallery(m_engine);
     m_clock.reset();
 }
 

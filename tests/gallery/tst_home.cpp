@@ -125,7 +125,7 @@ void tst_home::init()
 
 void tst_home::cleanup()
 {
-    m_engine.reset();
+    endGallery(m_engine);
     m_clock.reset();
 }
 

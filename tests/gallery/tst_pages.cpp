@@ -50,7 +50,7 @@ void tst_pages::init()
 
 void tst_pages::cleanup()
 {
-    m_engine.reset();
+    endGallery(m_engine);
 }
 
 void tst_pages::load(const QString &language)
@@ -133,7 +133,7 @@ void tst_pages::everyStopIsReached_data()
                     << language << index << view;
         }
     }
-    m_engine.reset();
+    endGallery(m_engine);
 }
 
 void tst_pages::everyStopIsReached()

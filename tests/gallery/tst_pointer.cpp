@@ -82,7 +82,7 @@ void tst_Pointer::init()
 
 void tst_Pointer::cleanup()
 {
-    m_engine.reset();
+    endGallery(m_engine);
     m_clock.reset();
 }
 

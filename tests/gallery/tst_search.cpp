@@ -100,7 +100,7 @@ void tst_search::init()
 
 void tst_search::cleanup()
 {
-    m_engine.reset();
+    endGallery(m_engine);
 }
 
 void tst_search::press(Qt::Key key, int times)
