@@ -46,8 +46,8 @@ bool KelFrameNode::update(QSGNode *&node, const QQuickPaintedItem &item, const P
     const bool isFrameNode = node && node->type() == QSGNode::RenderNodeType;
     const auto api = item.window()->rendererInterface()->graphicsApi();
     // A picture, once made, stays: the item holds on to its node.
-    const bool isPossible =
-        api == QSGRendererInterface::Software && hasDefaultRenderSettings(item) && (!node || isFrameNode);
+    const bool isPossible = paint && api == QSGRendererInterface::Software && hasDefaultRenderSettings(item)
+        && (!node || isFrameNode);
     // Sides in whole pixels, as those of a picture; longer, they change nothing.
     // Of a number and NaN, these take the number.
     const auto bounded = [](qreal side) { return std::fmin(std::fmax(side, 0.0), longest); };

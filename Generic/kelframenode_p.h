@@ -20,7 +20,7 @@ public:
 
     /*!
         Makes the node show the item, or nothing where that has no size. False where only a picture will do:
-        with another renderer, and for an item that is asked for a picture of a certain kind.
+        with another renderer, for an item that is asked for a picture of a certain kind, and without paint.
     */
     static bool update(QSGNode *&node, const QQuickPaintedItem &item, const Paint &paint);
 

@@ -14,6 +14,7 @@
 #include <QtQuick/QSGNode>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -62,11 +63,11 @@ QTextLine layOut(QTextLayout &layout)
     return line;
 }
 
-//! How far the only line of a text reaches above its base line and below.
-std::pair<double, double> heightsOf(QTextLayout &layout)
+//! How far the only line of a text reaches above its base line and below, and the room that it leaves.
+std::array<double, 3> heightsOf(QTextLayout &layout)
 {
     const QTextLine line = layOut(layout);
-    return {line.ascent(), line.descent()};
+    return {line.ascent(), line.descent(), line.leading()};
 }
 
 /*!
@@ -157,7 +158,10 @@ KelLineMetrics::KelLineMetrics(const QFont &font)
 {
     QTextLayout empty({}, font);
     m_emptyLine = heightsOf(empty);
-    m_lineHeight = empty.boundingRect().height();
+    // With its room, as a static text measures it.
+    QTextLine line = empty.lineAt(0);
+    line.setLeadingIncluded(true);
+    m_lineHeight = line.height();
     // An upper bound for what moves letters apart, on average.
     m_kerning = QFontInfo(font).pixelSize() / 16.0;
     for (const QChar letter : QStringView(u"xЖλ")) {
@@ -574,6 +578,9 @@ void KelLargeText::paint(QPainter *painter)
 QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
 {
     QSGNode *node = oldNode;
+    // Painters draw the lines under, through and over a static text in the wrong place unless its coordinates
+    // are the device's.
+    const bool isDecorated = d->font.underline() || d->font.strikeOut() || d->font.overline();
     // Without the limit for pictures an item as high as its text would paint all of it.
     if (KelPicture::canKeep(*this)) {
         // The frame is painted later than this, and in parts where something else repaints: all alike.
@@ -583,7 +590,8 @@ QSGNode *KelLargeText::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *da
                 item->d->draw(painter, color, places);
         };
         // A thread that renders would read the item while its own thread changes it.
-        if (thread() == QThread::currentThread() && KelFrameNode::update(node, *this, paint))
+        const bool isPaintedHere = thread() == QThread::currentThread() && !isDecorated;
+        if (KelFrameNode::update(node, *this, isPaintedHere ? KelFrameNode::Paint(paint) : nullptr))
             return node;
         return QQuickPaintedItem::updatePaintNode(node, data);
     }

@@ -5,9 +5,9 @@
 #include <QtGui/QFont>
 #include <QtGui/QStaticText>
 
+#include <array>
 #include <map>
 #include <optional>
-#include <utility>
 #include <vector>
 
 class KelLargeText;
@@ -52,8 +52,8 @@ private:
     bool isUsual(const QString &text) const;
 
     QFont m_font;
-    //! Ascent and descent.
-    std::pair<double, double> m_emptyLine;
+    //! Ascent, descent and leading.
+    std::array<double, 3> m_emptyLine{};
     double m_lineHeight = 0;
     double m_kerning = 0;
     //! Found out when first asked for.

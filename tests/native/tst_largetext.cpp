@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <QtCore/QFile>
 #include <QtCore/QMetaProperty>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QtEndian>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
@@ -329,6 +331,29 @@ QStringList words()
         u"\u00a0"_s, u"№—…«»€"_s, u"½ﬁ∞→☃"_s, u"\u200b"_s, u"\ufeff"_s, u"  "_s, u"."_s, u"-"_s};
 }
 
+//! The gallery's font under another name, with room between its lines.
+QByteArray leadingFontData()
+{
+    QFile file(QStringLiteral(KELUI_FONT));
+    if (!file.open(QFile::ReadOnly))
+        return {};
+    QByteArray data = file.readAll();
+    data.replace("\0I\0n\0t\0e\0r"_ba, "\0O\0u\0t\0e\0r"_ba);
+    constexpr qsizetype offsetInEntry = 8;
+    constexpr qsizetype lineGap = 72;
+    const auto table = qFromBigEndian<quint32>(data.constData() + data.indexOf("OS/2") + offsetInEntry);
+    qToBigEndian<qint16>(700, data.data() + table + lineGap);
+    return data;
+}
+
+QFont leadingFont()
+{
+    static const int id = QFontDatabase::addApplicationFontFromData(leadingFontData());
+    QFont font(QFontDatabase::applicationFontFamilies(id));
+    font.setPixelSize(15);
+    return font;
+}
+
 QList<QFont> allFonts()
 {
     QFont pointFont(u"DejaVu Serif"_s);
@@ -337,7 +362,7 @@ QList<QFont> allFonts()
     spacedFont.setLetterSpacing(QFont::AbsoluteSpacing, 3);
     QFont capitalFont = fontOf(14);
     capitalFont.setCapitalization(QFont::AllUppercase);
-    return {fontOf(20), fontOf(13), fontOf(31), pointFont, spacedFont, capitalFont, QFont()};
+    return {fontOf(20), fontOf(13), fontOf(31), pointFont, spacedFont, capitalFont, leadingFont(), QFont()};
 }
 
 bool isBlank(const QImage &picture)
@@ -632,6 +657,7 @@ private Q_SLOTS:
     void textWithoutLineBreakIsPreparedAtOnce();
     void onePieceIsPreparedInAPass();
     void emptyLinesAreAsHighAsOthers();
+    void linesAreAsHighAsTheyAreDrawn();
     void textChangeResetsSilently();
     void widthIsTakenWhenAPieceIsPrepared();
     void maximumIsKnownOnceTheItemIsFilled();
@@ -651,6 +677,7 @@ private Q_SLOTS:
     void paintsFromTheOffsetOn_data();
     void paintsFromTheOffsetOn();
     void keepsWhatIsNearTheView();
+    void windowShowsWhatIsPainted_data();
     void windowShowsWhatIsPainted();
     void colorWaitsWhereAnotherItemRepaints();
     void heightsWaitWhereAnotherItemRepaints();
@@ -852,6 +879,21 @@ void tst_LargeText::emptyLinesAreAsHighAsOthers()
     item.setText(u"a\n\n\nb\n"_s);
     item.prepareAll();
     QCOMPARE(item.contentHeight(), 5 * 24);
+}
+
+void tst_LargeText::linesAreAsHighAsTheyAreDrawn()
+{
+    QCOMPARE_GT(QFontMetricsF(leadingFont()).leading(), 1);
+    QGuiApplication::setFont(leadingFont());
+    LargeText item(200, 100);
+    item.setFont(leadingFont());
+    item.setText(lines(50));
+    const int unprepared = item.contentHeight();
+    item.prepareAll();
+    const int prepared = item.contentHeight();
+    painted(item);
+    QCOMPARE(item.contentHeight(), prepared);
+    QCOMPARE(unprepared, prepared);
 }
 
 void tst_LargeText::textChangeResetsSilently()
@@ -1150,8 +1192,24 @@ void tst_LargeText::keepsWhatIsNearTheView()
     }
 }
 
+void tst_LargeText::windowShowsWhatIsPainted_data()
+{
+    QTest::addColumn<QFont>("font");
+    QFont underlined = fontOf(20);
+    underlined.setUnderline(true);
+    QFont struckOut = fontOf(20);
+    struckOut.setStrikeOut(true);
+    QFont overlined = fontOf(20);
+    overlined.setOverline(true);
+    QTest::addRow("plain") << fontOf(20);
+    QTest::addRow("underlined") << underlined;
+    QTest::addRow("struck out") << struckOut;
+    QTest::addRow("overlined") << overlined;
+}
+
 void tst_LargeText::windowShowsWhatIsPainted()
 {
+    QFETCH(const QFont, font);
     QQuickWindow window;
     window.setColor(Qt::white);
     window.resize(220, 160);
@@ -1174,6 +1232,10 @@ void tst_LargeText::windowShowsWhatIsPainted()
     const auto shown = [&] { return window.grabWindow().convertToFormat(QImage::Format_RGB32); };
     QCOMPARE(shown(), expected());
     item.scrollToDirection(1);
+    QCOMPARE(shown(), expected());
+    item.setFont(font);
+    QCOMPARE(shown(), expected());
+    item.setFont(fontOf(20));
     QCOMPARE(shown(), expected());
     const QImage black = shown();
     item.setColor(Qt::red);
