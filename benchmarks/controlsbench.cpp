@@ -16,8 +16,8 @@ const QByteArray common = R"(
 )";
 
 /*!
-    A control of the module, the equal one made of Qt Quick Controls, and the goals: made, shown, heap. The equal
-    one looks the same also with a text that is too long: it cuts it, breaks it or grows with it.
+    A control of the module, the equal one made of Qt Quick Controls, and the goals: made, shown, heap. The
+    equal one looks the same also with a text that is too long: it cuts it, breaks it or grows with it.
 */
 struct Pair
 {

@@ -36,8 +36,8 @@ using Work = std::function<void()>;
 
 /*!
     Median microseconds of two pieces of work, run in turn in one process, and the median of the ratios of
-    neighbouring runs, two of each, which holds when the speed of the machine drifts and whichever goes first. What
-    a piece of work must be followed by is not counted; such work is done once a round.
+    neighbouring runs, two of each, which holds when the speed of the machine drifts and whichever goes first.
+    What a piece of work must be followed by is not counted; such work is done once a round.
 */
 Row timed(const QString &name, double goal, const Work &ours, const Work &theirs, int rounds = 40,
     const Work &after = {});
