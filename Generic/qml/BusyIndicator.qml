@@ -38,8 +38,8 @@ Item {
     /*! Frames of one strip. */
     property int switchingFrame
 
-    // Deliberately without the width of the description.
-    implicitWidth: Math.max(_canvas.width, _header.width)
+    // Deliberately without the width of the description. A hidden header keeps the last width it had.
+    implicitWidth: Math.max(_canvas.width, header === "" ? 0 : _header.width)
     implicitHeight: _private.bottom
 
     onHeightChanged: _private.fit()

@@ -106,6 +106,7 @@ QQT.Control {
 
             width: isWide ? _metrics.width + 2 : _lineEdit.cursorWidth
             color: _input.color
+            visible: false
 
             // The input puts the cursor on cursorRectangle each time, whatever is bound here.
             onXChanged: place()

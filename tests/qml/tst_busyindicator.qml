@@ -388,6 +388,13 @@ Rectangle {
             }
         }
 
+        function test_emptiedHeaderTakesNoWidth() {
+            const indicator = play({ width: 300, height: 200, header: "Wider than the viewport" });
+            tryVerify(() => indicator.implicitWidth > 60);
+            indicator.header = "";
+            compare(indicator.implicitWidth, 60);
+        }
+
         function test_lonelyDescriptionStandsOnTheViewport() {
             const indicator = play({ width: 300, height: 200, description: "Description" });
             const { description, texts } = parts(indicator);

@@ -441,11 +441,14 @@ Item {
                 { tag: "normal", properties: {} },
                 { tag: "focused", properties: { focused: true } },
                 { tag: "with active focus", properties: { focus: true, focused: true } },
+                { tag: "with active focus on the input", properties: {}, isInputFocused: true },
             ];
         }
 
         function test_cursorIsHiddenWhileNotSelected(data) {
             const field = create(Object.assign({ text: "abc" }, data.properties));
+            if (data.isInputFocused)
+                field.contentItem.forceActiveFocus();
             for (let time = 0; time < 3; ++time) {
                 const { cursor } = parts(field);
                 verify(!cursor || !cursor.visible);
