@@ -168,8 +168,8 @@ QByteArray theirCheckBox(const QByteArray &contentItem)
 }
 
 /*!
-    The parts and the interface of our check box, and of its bindings those alone without which it would not
-   show its title and its colours: nothing follows the size of the box or the spacing.
+    The parts and the interface of our check box, and of its bindings those alone that show its title and its
+    colours: nothing follows the size of the box or the spacing.
 */
 const QByteArray leastCheckBox = R"(
     component Least: T.CheckBox {
