@@ -27,10 +27,10 @@ inline QQuickWindow *windowOf(const QQmlApplicationEngine &engine)
 //! Views make their items a few at a time; an engine that ends meanwhile warns.
 inline void endGallery(std::unique_ptr<QQmlApplicationEngine> &engine)
 {
-    const auto isMaking = [&engine] {
-        return engine && engine->incubationController()
-            && engine->incubationController()->incubatingObjectCount() > 0;
+    const auto isReady = [&engine] {
+        const QQmlIncubationController *controller = engine ? engine->incubationController() : nullptr;
+        return !controller || controller->incubatingObjectCount() == 0;
     };
-    QVERIFY(QTest::qWaitFor([&isMaking] { return !isMaking(); }));
+    QVERIFY(QTest::qWaitFor(isReady));
     engine.reset();
 }
