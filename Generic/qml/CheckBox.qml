@@ -33,8 +33,7 @@ QQT.CheckBox {
     /*! State colours of the title. */
     property var titleColors
 
-    // With the paddings, or the title would get less than it asks for, wrap, and ask for less, without end.
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight)
     spacing: 24
     indicatorSize.width: 60
@@ -67,9 +66,10 @@ QQT.CheckBox {
         KELUIQCG.Text {
             id: _title
 
-            // Layouts round widths: beside a fraction the title would get less than it asks for, wrap, and ask for
-            // less, without end.
-            Layout.leftMargin: Math.ceil(_indicator.width + _checkBox.spacing)
+            Layout.leftMargin: _indicator.width + _checkBox.spacing
+            // Paddings and fractions leave less than the title asks for: it would wrap, and ask for less, without
+            // end.
+            Layout.minimumWidth: _checkBox.width === _checkBox.implicitWidth ? implicitWidth : 0
             Layout.alignment: Qt.AlignVCenter
             Layout.fillWidth: true
             color: _checkBox.stateColor(_checkBox.titleColors)
